@@ -1,0 +1,150 @@
+#include "command.h"
+
+#include "interrupt.h"
+#include "platform/terminal/terminal_platform.h"
+
+#include <s2k2ngt/converter.h>
+#include <s2k2ngt/s2k2ngt.h>
+
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <system_error>
+
+#include <nlohmann/json.hpp>
+
+using s2k2ngt::CConverter;
+
+namespace {
+
+struct Message {
+  std::string Key;
+  std::string Text;
+};
+
+/// What became of a file.
+struct Outcome {
+  int Result = s2k2ngt::kFailed;
+  std::optional<std::string> Output;  // when it was written whole
+  std::vector<Message> Messages;
+  std::optional<std::string> Error;  // of a failure
+};
+
+/// The terminal, which also keeps what it shows.
+class CommandPlatform : public s2k2ngt::TerminalPlatform {
+ public:
+  CommandPlatform(const CommandOptions& options, std::string file, std::vector<Message>& shown)
+      : TerminalPlatform(
+            {.Messages = !options.Quiet, .Progress = !options.Quiet && !options.NoProgress}),
+        m_File(std::move(file)),
+        m_Shown(shown) {}
+
+  void ShowMessage(const std::string& key, const std::string& text) override {
+    m_Shown.push_back({key, text});
+    TerminalPlatform::ShowMessage(key, m_File + ": " + text);
+  }
+  bool AskStop() override { return WasInterrupted(); }
+
+ private:
+  std::string m_File;
+  std::vector<Message>& m_Shown;
+};
+
+bool WouldReplaceInput(const std::string& input, const std::string& output) {
+  std::error_code noSuchFile;
+  return input == output || std::filesystem::equivalent(input, output, noSuchFile);
+}
+
+Outcome Convert(const std::string& file, const CommandOptions& options) {
+  Outcome outcome;
+  const std::string output = CConverter::OutputPath(file);
+  if (WouldReplaceInput(file, output)) {
+    outcome.Error = file + ": the output would replace the input; rename the input to end in .s2k";
+    return outcome;
+  }
+  CommandPlatform platform(options, file, outcome.Messages);
+  CConverter converter(platform);
+  try {
+    outcome.Result = converter.Run(file.c_str());
+    if (outcome.Result == s2k2ngt::kFailed) {
+      outcome.Error = converter.Failure().Describe(file);
+    }
+  } catch (const s2k2ngt::MemoryException&) {
+    outcome.Error = file + ": there is not enough memory for this model";
+  } catch (const std::exception& exception) {
+    s2k2ngt::Diagnostic failure = converter.Failure();
+    failure.Reason = exception.what();
+    outcome.Error = failure.Describe(file);
+  }
+  if (outcome.Result == s2k2ngt::kConverted) {
+    outcome.Output = output;
+  }
+  return outcome;
+}
+
+void PrintJson(const std::string& file, const Outcome& outcome) {
+  using nlohmann::ordered_json;
+  const auto textOrNull = [](const std::optional<std::string>& text) {
+    return text ? ordered_json(*text) : ordered_json(nullptr);
+  };
+  ordered_json messages = ordered_json::array();
+  for (const Message& message : outcome.Messages) {
+    messages.push_back({{"key", message.Key}, {"text", message.Text}});
+  }
+  const ordered_json object = {{"input", file},
+                               {"output", textOrNull(outcome.Output)},
+                               {"result", outcome.Result},
+                               {"messages", messages},
+                               {"error", textOrNull(outcome.Error)}};
+  // Labels are bytes of any character set; JSON is UTF-8.
+  std::cout << object.dump(-1, ' ', false, ordered_json::error_handler_t::replace) << std::endl;
+}
+
+void PrintOutcome(const std::string& file, const Outcome& outcome, const CommandOptions& options) {
+  if (outcome.Error) {
+    std::cerr << "s2k2ngt: " << *outcome.Error << '\n';
+  } else if (outcome.Result == s2k2ngt::kStopped) {
+    std::cerr << "s2k2ngt: " << file << ": stopped\n";
+  } else if (!options.Quiet) {
+    std::cerr << "s2k2ngt: " << file << ": converted to " << *outcome.Output << '\n';
+  }
+}
+
+}  // namespace
+
+int ConvertFiles(const CommandOptions& options) {
+  CatchInterrupts();
+  bool oneFailed = false;
+  bool oneStopped = false;
+  for (const std::string& file : options.Files) {
+    Outcome outcome;
+    if (WasInterrupted()) {
+      outcome.Result = s2k2ngt::kStopped;
+    } else {
+      outcome = Convert(file, options);
+    }
+    PrintOutcome(file, outcome, options);
+    if (options.Json) {
+      PrintJson(file, outcome);
+    }
+    oneFailed = oneFailed || outcome.Result == s2k2ngt::kFailed;
+    oneStopped = oneStopped || outcome.Result == s2k2ngt::kStopped;
+  }
+  if (!std::cout) {
+    std::cerr << "s2k2ngt: cannot write to standard output\n";
+    return kOneFailed;
+  }
+  if (oneFailed) {
+    return kOneFailed;
+  }
+  return oneStopped ? kOneStopped : kAllConverted;
+}
+
+int ListMessages() {
+  for (std::size_t position = 0; position < s2k2ngt_message_count(); ++position) {
+    const char* const key = s2k2ngt_message_key(position);
+    std::cout << key << '\t' << s2k2ngt_message_text(key) << '\n';
+  }
+  return std::cout.flush() ? kAllConverted : kOneFailed;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// How the command was called.
+struct CommandOptions {
+  std::vector<std::string> Files;
+  bool Json = false;        // one object a file on standard output
+  bool Quiet = false;       // no messages and no progress, but failures
+  bool NoProgress = false;  // no progress bar
+};
+
+// Exit statuses.
+inline constexpr int kAllConverted = 0;
+inline constexpr int kOneStopped = 1;
+inline constexpr int kOneFailed = 2;
+inline constexpr int kWrongUsage = 64;
+
+/// Converts the files one after the other, whatever becomes of each, and returns the exit status.
+int ConvertFiles(const CommandOptions& options);
+
+/// Prints the message keys and their texts.
+int ListMessages();

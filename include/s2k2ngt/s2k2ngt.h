@@ -1,0 +1,69 @@
+/*
+ * C interface of s2k2ngt, for hosts of any language and compiler.
+ *
+ *     static void on_message(void *context, const char *key, const char *text) { ... }
+ *
+ *     s2k2ngt_host host = {0};
+ *     host.size = sizeof host;
+ *     host.message = on_message;
+ *     char output[4096];
+ *     int result = s2k2ngt_convert("bridge.s2k", &host, output, sizeof output);
+ *
+ * Nothing is thrown across this interface, and no window is opened.
+ */
+#ifndef S2K2NGT_H
+#define S2K2NGT_H
+
+#include "s2k2ngt/export.h"
+
+#include <stddef.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Results of a conversion. */
+#define S2K2NGT_CONVERTED 0
+#define S2K2NGT_STOPPED 1
+#define S2K2NGT_FAILED (-1)
+
+/* The host's call-backs, each of which may be null. They are called on the thread that called
+ * s2k2ngt_convert. Texts are valid during the call alone. */
+typedef struct s2k2ngt_host {
+  /* sizeof(s2k2ngt_host), so that later versions can add to its end. */
+  size_t size;
+  /* Handed to every call-back as it is. */
+  void* context;
+  /* A text for the user. `key` is its key in the message catalogue, or "". */
+  void (*message)(void* context, const char* key, const char* text);
+  /* What is being done, and how far it has come: `position` of `range`, which it may exceed. */
+  void (*progress)(void* context, const char* phase, int position, int range);
+  /* Other than 0 stops the run at this point. */
+  int (*stop)(void* context);
+  /* Called once, with the reason, when the result is -1: file, line, table and what is wrong. */
+  void (*failure)(void* context, const char* reason);
+} s2k2ngt_host;
+
+/* Converts the file at `path` and writes the output beside it.
+ *
+ * With result 0 the output's path, ended by a NUL, stands in `output`, which holds `output_size`
+ * bytes; with any other result `output` is left as it was. `output` may be null if output_size is
+ * 0: then the path is not told. A buffer that is too small fails the call before anything is done.
+ * `host` may be null. */
+S2K2NGT_API int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output,
+                                size_t output_size);
+
+/* The library's version, such as "0.1.0". */
+S2K2NGT_API const char* s2k2ngt_version(void);
+
+/* The number of message keys, a key by its position from 0 (null beyond the last), and the text
+ * that the loaded catalogue has for a key. */
+S2K2NGT_API size_t s2k2ngt_message_count(void);
+S2K2NGT_API const char* s2k2ngt_message_key(size_t position);
+S2K2NGT_API const char* s2k2ngt_message_text(const char* key);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,124 @@
+#include "common/numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+namespace s2k2ngt {
+namespace {
+
+constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+
+/// Takes a sign off the front; true when it was a minus.
+bool TakeSign(Text& text) {
+  const bool minus = text.starts_with('-');
+  if (minus || text.starts_with('+')) {
+    text.remove_prefix(1);
+  }
+  return minus;
+}
+
+bool IsHexDigit(char c) {
+  return IsDigitChar(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+/// True when hexadecimal digits follow the "0x" that `text` begins with.
+bool BeginsHexadecimal(Text text) {
+  if (!text.starts_with("0x") && !text.starts_with("0X")) {
+    return false;
+  }
+  const Text digits = text.substr(2);
+  return (!digits.empty() && IsHexDigit(digits[0])) ||
+         (digits.size() > 1 && digits[0] == '.' && IsHexDigit(digits[1]));
+}
+
+/// Tells for a number that no double holds whether it is too large or too close to zero: by the
+/// power of its base at its first digit other than 0.
+double NearestToUnrepresentable(Text number, char exponentMark) {
+  std::int64_t power = 0;
+  bool digitSeen = false;
+  bool pointSeen = false;
+  std::size_t at = 0;
+  for (; at < number.size() && (number[at] | 0x20) != exponentMark; ++at) {
+    if (number[at] == '.') {
+      pointSeen = true;
+    } else {
+      digitSeen = digitSeen || number[at] != '0';
+      power += digitSeen && !pointSeen ? 1 : 0;
+      power -= !digitSeen && pointSeen ? 1 : 0;
+    }
+  }
+  const std::int64_t unitsPerDigit = exponentMark == 'p' ? 4 : 1;
+  const std::int64_t exponent = at < number.size() ? ParseInteger(number.substr(at + 1)) : 0;
+  return power * unitsPerDigit + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+}  // namespace
+
+double ParseReal(Text text) {
+  text = TrimLeft(text);
+  const bool minus = TakeSign(text);
+  const bool hexadecimal = BeginsHexadecimal(text);
+  if (hexadecimal) {
+    text.remove_prefix(2);
+  }
+  if (text.starts_with('-')) {
+    return 0.0;
+  }
+  double value = 0.0;
+  const auto format = hexadecimal ? std::chars_format::hex : std::chars_format::general;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, format);
+  if (error == std::errc::invalid_argument) {
+    return 0.0;
+  }
+  if (error == std::errc::result_out_of_range) {
+    const Text number(text.data(), static_cast<std::size_t>(end - text.data()));
+    value = NearestToUnrepresentable(number, hexadecimal ? 'p' : 'e');
+  }
+  return minus ? -value : value;
+}
+
+std::int32_t ParseInteger(Text text) {
+  text = TrimLeft(text);
+  const bool minus = TakeSign(text);
+  std::int64_t value = 0;
+  for (const char c : text) {
+    if (!IsDigitChar(c)) {
+      break;
+    }
+    value = value * 10 + (c - '0');
+    if (value > kHighest) {
+      return minus ? kLowest : kHighest;
+    }
+  }
+  return static_cast<std::int32_t>(minus ? -value : value);
+}
+
+std::int32_t TruncateToInteger(double value) {
+  if (std::isnan(value)) {
+    return 0;
+  }
+  if (value <= static_cast<double>(kLowest)) {
+    return kLowest;
+  }
+  if (value >= static_cast<double>(kHighest)) {
+    return kHighest;
+  }
+  return static_cast<std::int32_t>(value);
+}
+
+char* FormatReal(char* first, double value) {
+  if (std::isnan(value)) {
+    // printf tells the sign of a NaN on one platform and not on another.
+    value = std::numeric_limits<double>::quiet_NaN();
+  }
+  return std::to_chars(first, first + kRealSize, value, std::chars_format::general, 6).ptr;
+}
+
+char* FormatInteger(char* first, std::int32_t value) {
+  return std::to_chars(first, first + kIntegerSize, value).ptr;
+}
+
+}  // namespace s2k2ngt

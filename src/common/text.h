@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <memory_resource>
+#include <string>
+#include <string_view>
+
+namespace s2k2ngt {
+
+/// A text of a record. It is a view: its bytes lie in the source file's image or in a TextStore,
+/// both of which live as long as the models that hold the record. Bytes above 127 pass through
+/// unchanged; no character set is interpreted.
+using Text = std::string_view;
+
+/// Owns the bytes of texts that do not stand in the source file as they are needed: joined rows,
+/// values without their quotes, upper-cased words. Addresses stay valid until the store goes.
+class TextStore {
+ public:
+  /// Room for `size` bytes.
+  char* Allocate(std::size_t size);
+  /// A copy of `text` that lives as long as the store.
+  Text Keep(Text text);
+
+ private:
+  std::pmr::monotonic_buffer_resource m_Memory;
+};
+
+// The formats are those of a program that ran in the "C" locale: white space, digits and upper
+// case are those of ASCII, whatever the locale of the host process.
+
+bool IsSpace(char c);
+/// True for the characters of "0123456789".
+bool IsDigitChar(char c);
+/// True when every character is a digit; so also for an empty text.
+bool IsAllDigits(Text text);
+Text TrimLeft(Text text);
+Text TrimRight(Text text);
+std::string ToUpper(Text text);
+
+}  // namespace s2k2ngt

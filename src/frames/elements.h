@@ -1,0 +1,120 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// Connectivity of a frame.
+struct T_CNFR_D {
+  static constexpr Text kTable = "T_CNFR_D";
+  Text Frame;
+  Text JointI;
+  Text JointJ;
+  double Length = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_CNFR_D>{
+    Key{"Frame=", &T_CNFR_D::Frame}, Key{"JointI=", &T_CNFR_D::JointI},
+    Key{"JointJ=", &T_CNFR_D::JointJ}, Key{"Length=", &T_CNFR_D::Length}};
+
+/// Section assignment of a frame.
+struct T_FRSC_D {
+  static constexpr Text kTable = "T_FRSC_D";
+  Text Frame;
+  Text AnalSect;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRSC_D>{
+    Key{"Frame=", &T_FRSC_D::Frame},       Unread{"SectionType="}, Unread{"AutoSelect="},
+    Key{"AnalSect=", &T_FRSC_D::AnalSect}, Unread{"DesignSect="},  Unread{"MatProp="}};
+
+/// Typical local axes of a frame. Mirrored sections go over unmirrored.
+struct T_FRTP_D {
+  static constexpr Text kTable = "T_FRTP_D";
+  Text Frame;
+  double Angle = 0.0;  // of the section about the frame's axis, degrees
+  bool AdvanceAxes = false;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRTP_D>{
+    Key{"Frame=", &T_FRTP_D::Frame}, Key{"Angle=", &T_FRTP_D::Angle}, Unread{"MirrorAbt2="},
+    Unread{"MirrorAbt3="}, Key{"AdvanceAxes=", &T_FRTP_D::AdvanceAxes}};
+
+/// Advanced local axes of a frame: the plane that two of its axes span. The component of the plane
+/// vector along global X plays no part.
+struct T_FRAV_D {
+  static constexpr Text kTable = "T_FRAV_D";
+  Text Frame;
+  Text LocalPlan;  // "12" or "13"
+  Text PlOption1;  // "Coord Dir", "Two Joints", or a vector
+  Text CoordDir1;
+  Text CoordDir2;
+  Text PlVecJt1;
+  Text PlVecJt2;
+  double PlVecY = 0.0;
+  double PlVecZ = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRAV_D>{Key{"Frame=", &T_FRAV_D::Frame},
+                                               Key{"LocalPlan=", &T_FRAV_D::LocalPlan},
+                                               Key{"PlOption1=", &T_FRAV_D::PlOption1},
+                                               Unread{"PlCoordSys="},
+                                               Key{"CoordDir1=", &T_FRAV_D::CoordDir1},
+                                               Key{"CoordDir2=", &T_FRAV_D::CoordDir2},
+                                               Key{"PlVecJt1=", &T_FRAV_D::PlVecJt1},
+                                               Key{"PlVecJt2=", &T_FRAV_D::PlVecJt2},
+                                               Unread{"PlVecX="},
+                                               Key{"PlVecY=", &T_FRAV_D::PlVecY},
+                                               Key{"PlVecZ=", &T_FRAV_D::PlVecZ}};
+
+// ---- Target records ----
+
+/// A beam element. A position without a record prints these values.
+struct T_NGT_FRAM_D {
+  Text Label = "1";
+  Text Type;
+  std::int32_t iMAT = 1;
+  std::int32_t iPRO = 1;
+  double Angle = 0.0;  // degrees
+  Text NodeI;          // joint labels, turned into numbers when written
+  Text NodeJ;
+};
+
+// ---- Conversion ----
+
+/// Frames into beam elements, with their section, material and angle.
+bool ConvertFrames(Conversion& run);
+
+/// What an advanced axes row says of the plane of a frame's or link's local axes.
+struct AdvancedPlane {
+  Text LocalPlane;
+  Text PlOption1;
+  Text CoordDir1;
+  Text CoordDir2;
+  Text PlVecJt1;
+  Text PlVecJt2;
+  double PlVecY;
+  double PlVecZ;
+};
+
+/// The angle, in degrees, corrected for the plane that the advanced axes ask for.
+double AngleInPlane(CModel& model, const AdvancedPlane& plane, double angle);
+
+// ---- Output ----
+
+/// Writes the frame lines of *ELEMENT.
+void WriteFrameElements(Conversion& run, LineWriter& out);
+
+}  // namespace s2k2ngt

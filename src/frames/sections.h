@@ -1,0 +1,147 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+#include <array>
+#include <cstdint>
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// A frame section. The number of a section is its row's key.
+struct T_FRSG_D {
+  static constexpr Text kTable = "T_FRSG_D";
+  Text SectionName;
+  Text Material;
+  Text Shape;
+  double t3 = 0.0;
+  double t2 = 0.0;
+  double tf = 0.0;
+  double tw = 0.0;
+  double t2b = 0.0;
+  double tfb = 0.0;
+  double dis = 0.0;
+  double Area = 0.0;
+  double AS2 = 0.0;
+  double AS3 = 0.0;
+  double TorsConst = 0.0;
+  double I33 = 0.0;
+  double I22 = 0.0;
+  // Modifiers; a row that does not state one scales its property to nothing.
+  double AMod = 0.0;
+  double A2Mod = 0.0;
+  double A3Mod = 0.0;
+  double JMod = 0.0;
+  double I2Mod = 0.0;
+  double I3Mod = 0.0;
+  double WMod = 0.0;
+};
+
+/// The Shape of a section that is put together of others.
+inline constexpr Text kNonprismatic = "Nonprismatic";
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRSG_D>{Key{"SectionName=", &T_FRSG_D::SectionName},
+                                               Key{"Material=", &T_FRSG_D::Material},
+                                               Key{"Shape=", &T_FRSG_D::Shape},
+                                               Key{"t3=", &T_FRSG_D::t3},
+                                               Key{"t2=", &T_FRSG_D::t2},
+                                               Key{"tf=", &T_FRSG_D::tf},
+                                               Key{"tw=", &T_FRSG_D::tw},
+                                               Key{"t2b=", &T_FRSG_D::t2b},
+                                               Key{"tfb=", &T_FRSG_D::tfb},
+                                               Key{"dis=", &T_FRSG_D::dis},
+                                               Key{"Area=", &T_FRSG_D::Area},
+                                               Key{"AS2=", &T_FRSG_D::AS2},
+                                               Key{"AS3=", &T_FRSG_D::AS3},
+                                               Key{"TorsConst=", &T_FRSG_D::TorsConst},
+                                               Key{"I33=", &T_FRSG_D::I33},
+                                               Key{"I22=", &T_FRSG_D::I22},
+                                               Unread{"S33="},
+                                               Unread{"S22="},
+                                               Unread{"Z33="},
+                                               Unread{"Z22="},
+                                               Unread{"R33="},
+                                               Unread{"R22="},
+                                               Unread{"Color="},
+                                               Unread{"TotalWt="},
+                                               Unread{"TotalMass="},
+                                               Key{"AMod=", &T_FRSG_D::AMod},
+                                               Key{"A2Mod=", &T_FRSG_D::A2Mod},
+                                               Key{"A3Mod=", &T_FRSG_D::A3Mod},
+                                               Key{"JMod=", &T_FRSG_D::JMod},
+                                               Key{"I2Mod=", &T_FRSG_D::I2Mod},
+                                               Key{"I3Mod=", &T_FRSG_D::I3Mod},
+                                               Unread{"MMod="},
+                                               Key{"WMod=", &T_FRSG_D::WMod},
+                                               Unread{"SectInFile="},
+                                               Unread{"FileName="}};
+
+/// A segment of a nonprismatic section. Segment lengths have no place in the output.
+struct T_FSNP_D {
+  static constexpr Text kTable = "T_FSNP_D";
+  Text SectionName;
+  std::int32_t NumSegments = 0;
+  std::int32_t SegmentNum = 0;  // from 1
+  Text StartSect;
+  Text EndSect;
+  Text EI33Var;  // "Linear", "Prabolic" or "Cubic", the second spelt as the source program does
+  Text EI22Var;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FSNP_D>{Key{"SectionName=", &T_FSNP_D::SectionName},
+                                               Key{"NumSegments=", &T_FSNP_D::NumSegments},
+                                               Key{"SegmentNum=", &T_FSNP_D::SegmentNum},
+                                               Key{"StartSect=", &T_FSNP_D::StartSect},
+                                               Key{"EndSect=", &T_FSNP_D::EndSect},
+                                               Unread{"LengthType="},
+                                               Unread{"AbsLength="},
+                                               Unread{"VarLength="},
+                                               Key{"EI33Var=", &T_FSNP_D::EI33Var},
+                                               Key{"EI22Var=", &T_FSNP_D::EI22Var}};
+
+// ---- Target records ----
+
+/// A section at one end of a beam. The target's axes y and z are the source's axes 3 and 2.
+struct SectionEnd {
+  std::array<double, 6> D{};  // D1 to D6
+  double AREA = 0.0;
+  double ASy = 0.0;
+  double ASz = 0.0;
+  double Ixx = 0.0;
+  double Iyy = 0.0;
+  double Izz = 0.0;
+  // CyP, CyM, CzP, CzM, QyB, QzB, PERI_OUT, PERI_IN, Cy, Cz: the source states none of them
+  std::array<double, 10> Further{};
+};
+
+enum class SectionType { DbUser, Value, Tapered };
+
+/// A frame section. A number without a section prints these values.
+struct T_NGT_SECT_D {
+  SectionType TYPE = SectionType::DbUser;
+  Text SNAME;
+  Text OFFSET = "CC";  // where the beam's axis runs in the section
+  Text SHAPE = "SB";
+  SectionEnd I;
+  SectionEnd J;
+  std::int32_t iyVAR = 1;  // 1 linear, 2 parabolic, 3 cubic
+  std::int32_t izVAR = 1;
+  Text STYPE = "USER";
+};
+
+// ---- Conversion ----
+
+bool ConvertSections(Conversion& run);
+
+// ---- Output ----
+
+/// Writes *SECTION.
+bool WriteSections(Conversion& run, LineWriter& out);
+
+}  // namespace s2k2ngt

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+#include <optional>
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// A joint.
+struct T_JTCD_D {
+  static constexpr Text kTable = "T_JTCD_D";
+  Text Joint;
+  Text CoordType = "Cartesian";  // a row that does not state it is Cartesian
+  double XorR = 0.0;
+  double Y = 0.0;
+  double Z = 0.0;
+  bool SpecialJt = false;
+  bool StatesGlobal = false;  // the row states at least one of the global coordinates
+  double GlobalX = 0.0;
+  double GlobalY = 0.0;
+  double GlobalZ = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_JTCD_D>{Key{"Joint=", &T_JTCD_D::Joint},
+                                               Unread{"CoordSys="},
+                                               Key{"CoordType=", &T_JTCD_D::CoordType},
+                                               Key{"XorR=", &T_JTCD_D::XorR},
+                                               Key{"Y=", &T_JTCD_D::Y},
+                                               Unread{"T="},
+                                               Key{"Z=", &T_JTCD_D::Z},
+                                               Key{"SpecialJt=", &T_JTCD_D::SpecialJt},
+                                               Key{"GlobalX=", &T_JTCD_D::GlobalX},
+                                               Key{"GlobalY=", &T_JTCD_D::GlobalY},
+                                               Key{"GlobalZ=", &T_JTCD_D::GlobalZ},
+                                               States{"GlobalX=", &T_JTCD_D::StatesGlobal},
+                                               States{"GlobalY=", &T_JTCD_D::StatesGlobal},
+                                               States{"GlobalZ=", &T_JTCD_D::StatesGlobal}};
+
+/// Stores the joints; a joint in cylindrical or other coordinates refuses the file without a
+/// message.
+std::optional<Refusal> StoreJoints(TableRows rows, CModel& model, Messages& shown);
+
+/// A point, in the length unit of the file.
+struct Point {
+  double X = 0.0;
+  double Y = 0.0;
+  double Z = 0.0;
+};
+
+/// The global coordinates of a joint; zeros for a joint that is not there. A row that states no
+/// global coordinate gives those that its node has in the output.
+Point GlobalCoordinates(CModel& model, Text joint);
+
+// ---- Target records ----
+
+/// A node.
+struct T_NGT_NODE_D {
+  Text Label;
+  double X = 0.0;
+  double Y = 0.0;
+  double Z = 0.0;
+};
+
+// ---- Conversion ----
+
+/// Joints into nodes. Clears NodeLabelsNumeric at a label that is not all digits.
+bool ConvertJoints(Conversion& run);
+
+/// Fills the node map of a model whose labels are not all numbers. Runs last of the joint steps.
+bool MapNodes(Conversion& run);
+
+// ---- Output ----
+
+/// Writes *NODE.
+bool WriteNodes(Conversion& run, LineWriter& out);
+
+}  // namespace s2k2ngt

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+#include <array>
+#include <cstdint>
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// Connectivity of an area.
+struct T_CNAR_D {
+  static constexpr Text kTable = "T_CNAR_D";
+  Text Area;
+  Text Joint1;
+  Text Joint2;
+  Text Joint3;
+  Text Joint4;  // empty on a row of three joints
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_CNAR_D>{Key{"Area=", &T_CNAR_D::Area},
+                                               Key{"Joint1=", &T_CNAR_D::Joint1},
+                                               Key{"Joint2=", &T_CNAR_D::Joint2},
+                                               Key{"Joint3=", &T_CNAR_D::Joint3},
+                                               Key{"Joint4=", &T_CNAR_D::Joint4},
+                                               Unread{"AreaArea="},
+                                               Unread{"Volume="}};
+
+/// Section assignment of an area.
+struct T_ASCA_D {
+  static constexpr Text kTable = "T_ASCA_D";
+  Text Area;
+  Text Section;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_ASCA_D>{
+    Key{"Area=", &T_ASCA_D::Area}, Key{"Section=", &T_ASCA_D::Section}, Unread{"MatProp="}};
+
+/// An area section. Its row's key is the number of the section and of its thickness.
+struct T_ASPR_D {
+  static constexpr Text kTable = "T_ASPR_D";
+  Text Section;
+  Text Material;
+  Text AreaType;  // "Shell", "Plane" or "Asolid"
+  Text Type;
+  double Thickness = 0.0;  // membrane
+  double BendThick = 0.0;  // bending
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_ASPR_D>{
+    Key{"Section=", &T_ASPR_D::Section}, Key{"Material=", &T_ASPR_D::Material}, Unread{"MatAngle="},
+    Key{"AreaType=", &T_ASPR_D::AreaType},
+    // with a blank, so that it is not met inside AreaType=
+    Key{" Type=", &T_ASPR_D::Type}, Key{"Thickness=", &T_ASPR_D::Thickness},
+    Key{"BendThick=", &T_ASPR_D::BendThick}, Unread{"Arc="}, Unread{"InComp="}, Unread{"CoordSys="},
+    Unread{"Color="}, Unread{"TotalWt="}, Unread{"TotalMass="}, Unread{"F11Mod="},
+    Unread{"F22Mod="}, Unread{"F12Mod="}, Unread{"M11Mod="}, Unread{"M22Mod="}, Unread{"M12Mod="},
+    Unread{"V13Mod="}, Unread{"V23Mode="}, Unread{"MMod="}, Unread{"WMod="}};
+
+/// Gravity loads of areas; the stages only ask whether there are any.
+struct T_ALGR_D {
+  static constexpr Text kTable = "T_ALGR_D";
+};
+
+/// Section modifiers of areas. Their table is refused, so that there are never any.
+struct T_ASMD_D {
+  static constexpr Text kTable = "T_ASMD_D";
+};
+
+/// Typical local axes of areas. Their table is refused, so that there are never any, and no angle
+/// reaches a plate.
+struct T_ALTP_D {
+  static constexpr Text kTable = "T_ALTP_D";
+  Text Area;
+  double Angle = 0.0;  // degrees
+  bool AdvanceAxes = false;
+};
+
+// ---- Target records ----
+
+/// A plate, plane stress, plane strain or axisymmetric element.
+struct T_NGT_PLAT_D {
+  Text Label = "1";
+  Text TYPE;  // "PLATE", "PLSTRS", "PLSTRN", "AXISYM", or empty for a section without a like
+  std::int32_t iMAT = 1;
+  std::int32_t iPRO = 1;
+  double Angle = 0.0;        // degrees; the output has no place for it
+  std::array<Text, 4> iN{};  // joint labels, turned into numbers when written
+  std::int32_t iSUB = 1;     // 1 thick plate, 2 thin plate, 0 membrane
+};
+
+/// The thickness of an area section.
+struct T_NGT_THIK_D {
+  static constexpr std::uint32_t kBuckets = 1'001;
+  Text TYPE = "VALUE";
+  Text bSAME;
+  double ThikIn = 0.0;
+  double ThikOut = 0.0;  // 0 when it is the same
+};
+
+// ---- Conversion ----
+
+/// Areas into plates.
+bool ConvertAreas(Conversion& run);
+
+/// Notes that section modifiers of areas are lost, if there are any.
+bool CheckAreaModifiers(Conversion& run);
+
+/// Tells at once that gravity loads of areas are lost, if there are any.
+bool CheckAreaGravityLoads(Conversion& run);
+
+/// Area sections into thicknesses.
+bool ConvertThicknesses(Conversion& run);
+
+// ---- Output ----
+
+/// Writes the planar lines of *ELEMENT.
+void WritePlanarElements(Conversion& run, LineWriter& out);
+
+/// Writes *THICKNESS.
+bool WriteThicknesses(Conversion& run, LineWriter& out);
+
+}  // namespace s2k2ngt

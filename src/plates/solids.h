@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/row_grammar.h"
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// Connectivity of a solid. So far its label alone is read, which takes part in the numbering of
+/// all elements.
+struct T_CNSL_D {
+  static constexpr Text kTable = "T_CNSL_D";
+  Text Solid;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_CNSL_D>{Key{"Solid=", &T_CNSL_D::Solid}};
+
+}  // namespace s2k2ngt

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <s2k2ngt/platform.h>
+
+#include <chrono>
+#include <string>
+
+namespace s2k2ngt {
+
+/// Shows messages as lines on standard error and progress as a bar, if that is a terminal.
+class TerminalPlatform : public Platform {
+ public:
+  struct Options {
+    bool Messages = true;
+    bool Progress = true;
+  };
+
+  TerminalPlatform();
+  explicit TerminalPlatform(Options options);
+  ~TerminalPlatform() override;
+
+  /// Asks for a path until it names a file; nothing when the answer is empty, or when there is no
+  /// terminal to ask on.
+  std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
+  void ShowMessage(const std::string& key, const std::string& text) override;
+  void OpenProgress() override;
+  void CloseProgress() override;
+  void SetStatus(const std::string& text) override;
+  void SetRange(int high) override;
+  void SetPosition(int position) override;
+
+  /// Takes the bar off the terminal, so that a line can be written in its place.
+  void EraseBar();
+
+ private:
+  void DrawBar();
+
+  Options m_Options;
+  bool m_BarIsOpen = false;
+  bool m_BarIsDrawn = false;
+  std::string m_Status;
+  int m_Range = 0;
+  int m_Position = 0;
+  std::chrono::steady_clock::time_point m_DrawnAt;
+};
+
+}  // namespace s2k2ngt

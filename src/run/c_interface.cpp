@@ -1,0 +1,112 @@
+#include "common/messages.h"
+#include "run/message_boxes.h"
+
+#include <s2k2ngt/converter.h>
+#include <s2k2ngt/s2k2ngt.h>
+#include <s2k2ngt/version.h>
+
+#include <algorithm>
+#include <cstring>
+#include <exception>
+#include <string>
+
+namespace s2k2ngt {
+namespace {
+
+/// Hands everything to a host's call-backs.
+class CallBackPlatform : public Platform {
+ public:
+  explicit CallBackPlatform(const s2k2ngt_host& host) : m_Host(host) {}
+
+  void ShowMessage(const std::string& key, const std::string& text) override {
+    if (m_Host.message != nullptr) {
+      m_Host.message(m_Host.context, key.c_str(), text.c_str());
+    }
+  }
+  void SetStatus(const std::string& text) override { m_Phase = text; }
+  void SetRange(int high) override { m_Range = high; }
+  void SetPosition(int position) override {
+    if (m_Host.progress != nullptr) {
+      m_Host.progress(m_Host.context, m_Phase.c_str(), position, m_Range);
+    }
+  }
+  bool AskStop() override { return m_Host.stop != nullptr && m_Host.stop(m_Host.context) != 0; }
+
+ private:
+  const s2k2ngt_host& m_Host;
+  std::string m_Phase;
+  int m_Range = 0;
+};
+
+/// The call-backs that the host's version of the struct has; the others are null.
+s2k2ngt_host KnownPartOf(const s2k2ngt_host* host) {
+  s2k2ngt_host known = {};
+  if (host != nullptr) {
+    std::memcpy(&known, host, std::min(host->size, sizeof known));
+  }
+  return known;
+}
+
+void TellFailure(const s2k2ngt_host& host, const char* reason) noexcept {
+  if (host.failure == nullptr) {
+    return;
+  }
+  try {
+    host.failure(host.context, reason);
+  } catch (...) {  // NOLINT(bugprone-empty-catch): nothing may be thrown to the host
+  }
+}
+
+int Convert(const char* path, const s2k2ngt_host& host, char* output, std::size_t outputSize) {
+  const std::string outputPath = CConverter::OutputPath(path);
+  if (outputSize > 0 && outputPath.size() + 1 > outputSize) {
+    TellFailure(host, "the buffer for the path of the output is too small");
+    return kFailed;
+  }
+  CallBackPlatform platform(host);
+  CConverter converter(platform);
+  int result = kFailed;
+  try {
+    result = converter.Run(path);
+  } catch (const std::exception& exception) {
+    Diagnostic failure = converter.Failure();
+    failure.Reason = exception.what();
+    TellFailure(host, failure.Describe(path).c_str());
+    return kFailed;
+  }
+  if (result == kFailed) {
+    TellFailure(host, converter.Failure().Describe(path).c_str());
+  } else if (result == kConverted && outputSize > 0) {
+    std::memcpy(output, outputPath.c_str(), outputPath.size() + 1);
+  }
+  return result;
+}
+
+}  // namespace
+}  // namespace s2k2ngt
+
+int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output, size_t output_size) {
+  const s2k2ngt_host known = s2k2ngt::KnownPartOf(host);
+  if (path == nullptr || (output == nullptr && output_size > 0)) {
+    s2k2ngt::TellFailure(known, "a path or buffer is missing");
+    return S2K2NGT_FAILED;
+  }
+  try {
+    return s2k2ngt::Convert(path, known, output, output_size);
+  } catch (...) {
+    s2k2ngt::TellFailure(known, "memory ran out, or a call-back of the host threw an exception");
+    return S2K2NGT_FAILED;
+  }
+}
+
+const char* s2k2ngt_version(void) { return S2K2NGT_VERSION; }
+
+size_t s2k2ngt_message_count(void) { return s2k2ngt::kMessageKeys.size(); }
+
+const char* s2k2ngt_message_key(size_t position) {
+  return position < s2k2ngt::kMessageKeys.size() ? s2k2ngt::kMessageKeys[position].data() : nullptr;
+}
+
+const char* s2k2ngt_message_text(const char* key) {
+  return key == nullptr ? "" : s2k2ngt::CatalogueText(key);
+}

@@ -1,0 +1,209 @@
+#include "run/message_boxes.h"
+#include "run/prgs_dlg.h"
+#include "run/row_parsers.h"
+#include "run/sections.h"
+#include "run/stages.h"
+#include "source/line_reader.h"
+#include "source/scanner.h"
+#include "source/source_file.h"
+#include "target/conversion.h"
+#include "target/head.h"
+#include "target/output_file.h"
+
+#include <s2k2ngt/converter.h>
+
+#include <array>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace s2k2ngt {
+
+/// The run itself. All that it works on lives as long as the driver.
+class CConverter::Impl : private TableSink {
+ public:
+  explicit Impl(Platform& platform) : m_Messages(platform), m_PrgsDlg(platform) {}
+
+  int Run(const std::string& path);
+  const Diagnostic& Failure() const { return m_Failure; }
+  std::uint64_t RowCount() const { return m_Model.RowCount(); }
+
+ private:
+  int RunPhases(const std::string& path);
+  int Read();
+  int Convert();
+  int Write(const std::string& outputPath);
+  int WriteAll(LineWriter& out);
+  bool DispatchRows(const TableBlock& block) override;
+
+  MessageBoxes m_Messages;
+  CPrgsDlg m_PrgsDlg;
+  SourceFile m_File;
+  CModel m_Model;
+  CNgtModel m_NgtModel;
+  ElementNumbers m_Elements;
+  DeferredWarnings m_Warnings;
+  Conversion m_Conversion{m_Model, m_NgtModel, m_Elements, m_Warnings, m_Messages};
+  Diagnostic m_Failure;
+};
+
+int CConverter::Impl::Run(const std::string& path) {
+  m_File = ReadSourceFile(path);
+  m_PrgsDlg.Create();
+  m_PrgsDlg.SetRange(static_cast<int>(CountLines(m_File.Image)));
+  if (!m_File.OpenError.empty()) {
+    // The progress window stays open behind the message.
+    m_Messages.ShowLiteral("Cannot open input file!");
+    m_Failure.Reason = "cannot open the input file: " + m_File.OpenError;
+    return kFailed;
+  }
+  m_Messages.Show("IDS_S2KV8_Export_must_be_executed");
+  try {
+    const int result = RunPhases(path);
+    m_PrgsDlg.Destroy();
+    return result;
+  } catch (const std::exception& exception) {
+    m_Failure.Reason = exception.what();
+    throw;
+  }
+}
+
+int CConverter::Impl::RunPhases(const std::string& path) {
+  int result = Read();
+  if (result == kConverted) {
+    result = Convert();
+  }
+  if (result == kConverted) {
+    result = Write(OutputPath(path));
+  }
+  return result;
+}
+
+int CConverter::Impl::Read() {
+  m_Failure.Phase = 1;
+  TableScanner scanner(m_File.Image, m_Model.Texts(), m_Messages, m_PrgsDlg, *this);
+  const int result = scanner.Read();
+  if (result == kFailed && m_Failure.Reason.empty()) {
+    m_Failure.Line = scanner.LineNumber();
+    m_Failure.Table = scanner.Title();
+    m_Failure.Reason = scanner.Reason();
+  }
+  return result;
+}
+
+bool CConverter::Impl::DispatchRows(const TableBlock& block) {
+  const TableOutcome outcome = OutcomeOf(block.TableId);
+  switch (outcome.Fate) {
+    case TableFate::Ignored:
+      return true;
+    case TableFate::Refused:
+      m_Messages.Show(*outcome.Message);
+      return true;
+    case TableFate::Stored:
+      break;
+  }
+  const RowParser parse = FindRowParser(outcome.Record);
+  if (parse == nullptr) {
+    return true;
+  }
+  m_Failure.Table = block.Title;
+  m_Failure.Line = block.Line;
+  if (const std::optional<Refusal> refusal = parse(block.Rows, m_Model, m_Messages)) {
+    m_Failure.Line = refusal->Line;
+    m_Failure.Reason = refusal->Reason;
+    return false;
+  }
+  m_Failure.Table.clear();
+  m_Failure.Line = 0;
+  return true;
+}
+
+int CConverter::Impl::Convert() {
+  m_Failure.Phase = 2;
+  m_PrgsDlg.SetPhase(2);
+  m_PrgsDlg.SetRange(20);
+  int position = 0;
+  for (const Stage& stage : kStages) {
+    if (!stage.Convert(m_Conversion)) {
+      m_Failure.Reason = "the stage of the " + std::string(stage.Name) + " failed";
+      return kFailed;
+    }
+    if (!m_PrgsDlg.Step(++position)) {
+      return kStopped;
+    }
+  }
+  return kConverted;
+}
+
+int CConverter::Impl::Write(const std::string& outputPath) {
+  m_Failure.Phase = 3;
+  m_PrgsDlg.SetPhase(3);
+  OutputFile file(outputPath);
+  LineWriter out(file);
+  WriteFileHead(outputPath, out);
+  const int result = WriteAll(out);
+  if (result == kConverted) {
+    WriteFileEnd(out);
+  }
+  // A file that was stopped or failed stays as far as it was written.
+  out.Flush();
+  file.Close();
+  return result;
+}
+
+int CConverter::Impl::WriteAll(LineWriter& out) {
+  m_PrgsDlg.SetRange(static_cast<int>(kSections.size()));
+  int position = 0;
+  for (const Section& section : kSections) {
+    if (!section.Write(m_Conversion, out)) {
+      m_Failure.Reason = "the section " + std::string(section.Commands) + " cannot be written";
+      return kFailed;
+    }
+    if (!m_PrgsDlg.Step(++position)) {
+      return kStopped;
+    }
+  }
+  return kConverted;
+}
+
+CConverter::CConverter(Platform& platform) : m_Platform(platform) {}
+
+CConverter::~CConverter() = default;
+
+int CConverter::Run(const char* pszPath) {
+  // Nothing survives from one run to the next.
+  m_Impl = std::make_unique<Impl>(m_Platform);
+  return m_Impl->Run(pszPath);
+}
+
+const Diagnostic& CConverter::Failure() const {
+  static const Diagnostic none;
+  return m_Impl == nullptr ? none : m_Impl->Failure();
+}
+
+std::uint64_t CConverter::RowCount() const { return m_Impl == nullptr ? 0 : m_Impl->RowCount(); }
+
+std::string CConverter::OutputPath(const std::string& inputPath) {
+  // Without a dot rfind gives npos, which takes the whole path.
+  return inputPath.substr(0, inputPath.rfind('.')) + ".ngt";
+}
+
+std::string Diagnostic::Describe(const std::string& fileName) const {
+  constexpr std::array<const char*, 4> kDoing = {"", "reading", "converting", "writing"};
+  std::string text = fileName;
+  if (Line > 0) {
+    text.append(":").append(std::to_string(Line));
+  }
+  text.append(": ");
+  if (Phase > 0) {
+    text.append(kDoing.at(static_cast<std::size_t>(Phase)));
+    if (!Table.empty()) {
+      text.append(" table \"").append(Table).append("\"");
+    }
+    text.append(": ");
+  }
+  return text.append(Reason);
+}
+
+}  // namespace s2k2ngt

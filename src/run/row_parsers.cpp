@@ -1,0 +1,65 @@
+#include "run/row_parsers.h"
+
+#include "analysis/spectrum.h"
+#include "frames/elements.h"
+#include "frames/end_conditions.h"
+#include "frames/materials.h"
+#include "frames/sections.h"
+#include "joints/nodes.h"
+#include "plates/areas.h"
+#include "plates/solids.h"
+#include "source/single_records.h"
+
+#include <algorithm>
+#include <array>
+
+namespace s2k2ngt {
+namespace {
+
+struct Entry {
+  Text Record;
+  RowParser Parse;
+};
+
+/// The table of a record whose rows are none of them refused.
+template <class Record>
+constexpr Entry Rows() {
+  return {Record::kTable, StoreRows<Record>};
+}
+
+constexpr std::array kRowParsers = std::to_array<Entry>({
+    {kActiveDegreesOfFreedom, StoreActiveDegreesOfFreedom},
+    {kCoordinateSystem, StoreCoordinateSystem},
+    {kUnits, StoreUnits},
+    {T_JTCD_D::kTable, StoreJoints},
+    Rows<T_CNFR_D>(),
+    Rows<T_FRSC_D>(),
+    Rows<T_FRTP_D>(),
+    Rows<T_FRAV_D>(),
+    Rows<T_FRGN_D>(),
+    Rows<T_FRPF_D>(),
+    Rows<T_FROF_D>(),
+    Rows<T_FRIP_D>(),
+    Rows<T_MTGN_D>(),
+    Rows<T_MTAD_D>(),
+    Rows<T_FRSG_D>(),
+    Rows<T_FSNP_D>(),
+    Rows<T_CNAR_D>(),
+    Rows<T_ASCA_D>(),
+    Rows<T_ASPR_D>(),
+    Rows<T_ALGR_D>(),
+    Rows<T_CNSL_D>(),
+    Rows<T_FRSB_D>(),
+    Rows<T_FRSF_D>(),
+    Rows<T_FRSH_D>(),
+    Rows<T_FRSZ_D>(),
+});
+
+}  // namespace
+
+RowParser FindRowParser(Text recordName) {
+  const auto* const entry = std::ranges::find(kRowParsers, recordName, &Entry::Record);
+  return entry == kRowParsers.end() ? nullptr : entry->Parse;
+}
+
+}  // namespace s2k2ngt

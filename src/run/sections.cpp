@@ -1,0 +1,61 @@
+#include "run/sections.h"
+
+#include "analysis/controls.h"
+#include "frames/end_conditions.h"
+#include "frames/materials.h"
+#include "frames/modifiers.h"
+#include "frames/sections.h"
+#include "joints/nodes.h"
+#include "plates/areas.h"
+#include "run/element_section.h"
+#include "target/head.h"
+
+namespace s2k2ngt {
+namespace {
+
+/// A place that is kept for a section that is not written yet.
+bool NotWrittenYet(Conversion& /*run*/, LineWriter& /*out*/) { return true; }
+
+}  // namespace
+
+const std::array<Section, 37> kSections = {{
+    {"*VERSION, *UNIT", WriteVersionAndUnit},
+    {"*STRUCTYPE", WriteStructureType},
+    {"*NODE", WriteNodes},
+    {"*LOCALAXIS", NotWrittenYet},
+    {"*ELEMENT", WriteElements},
+    {"*MATERIAL", WriteMaterials},
+    {"*SECTION", WriteSections},
+    {"*SECT-SCALE", WriteSectionScaleFactors},
+    {"*THICKNESS", WriteThicknesses},
+    {"*CONSTRAINT", NotWrittenYet},
+    {"*SPRING", NotWrittenYet},
+    {"*GSPRING, *GSPRTYPE", NotWrittenYet},
+    {"*STLDCASE", NotWrittenYet},
+    {"*NODALMASS", NotWrittenYet},
+    {"*OFFSET", WriteOffsets},
+    {"*FRAME-RLS", WriteReleases},
+    {"*INIFORCE", NotWrittenYet},
+    {"*ELASTICLINK", NotWrittenYet},
+    {"*NL-PROP", NotWrittenYet},
+    {"*NL-LINK", NotWrittenYet},
+    {"*RIGIDLINK", NotWrittenYet},
+    {"*LINELANE", NotWrittenYet},
+    {"*VEHICLE", NotWrittenYet},
+    {"*VCLASS", NotWrittenYet},
+    {"*MVLDCASE", NotWrittenYet},
+    {"*SFUNCTION", NotWrittenYet},
+    {"*SPLDCASE", NotWrittenYet},
+    {"*LOADTOMASS", NotWrittenYet},
+    {"*ANAL-CTRL", NotWrittenYet},
+    {"*SPEC-CTRL", NotWrittenYet},
+    {"*EIGEN-CTRL", NotWrittenYet},
+    {"*BUCK-CTRL", WriteBucklingControl},
+    {"*TFUNCTION", NotWrittenYet},
+    {"*THLDCASE", NotWrittenYet},
+    {"*GROUND-ACC", NotWrittenYet},
+    {"*DYN-SLOAD", NotWrittenYet},
+    {"*LOADCOMB", NotWrittenYet},
+}};
+
+}  // namespace s2k2ngt

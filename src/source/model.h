@@ -1,0 +1,111 @@
+#pragma once
+
+#include "common/messages.h"
+#include "common/record_tables.h"
+#include "common/text.h"
+#include "source/row_grammar.h"
+#include "source/table_catalogue.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+
+namespace s2k2ngt {
+
+/// Which translations and rotations the analysis has; of the table's first row.
+struct ActiveDegreesOfFreedom {
+  bool UX = false;
+  bool UY = false;
+  bool UZ = false;
+  bool RX = false;
+  bool RY = false;
+  bool RZ = false;
+};
+
+/// The units of the source file, of the program control table's first row.
+struct Units {
+  Text Force = "Ton";
+  Text Length = "m";
+  Text Temperature = "C";
+};
+
+/// The source file as tables of row records, one for each table that the converter knows. The key
+/// of a record is its row's position in its block, from 1; a second block of the same table writes
+/// over the rows of the same positions and leaves the rest.
+///
+/// A row record is a plain struct that names its table, `static constexpr Text kTable =
+/// "T_JTCD_D"`, and whose keys are listed in kRowKeys. The room of its topic declares it.
+class CModel {
+ public:
+  template <class Record>
+  CKeyedTable<Record>& Rows() {
+    static const std::uint32_t buckets = BucketsOfSourceTable(Record::kTable);
+    return m_Tables.Of<Record>(buckets);
+  }
+
+  /// Stores a copy of the record under the key, in the place of one that is there.
+  template <class Record>
+  void Add(std::uint32_t key, const Record& record) {
+    Rows<Record>().Insert(key, record);
+  }
+
+  void Set(const ActiveDegreesOfFreedom& freedom) { m_ActiveDegreesOfFreedom = freedom; }
+  void Set(const Units& units) { m_Units = units; }
+  const ActiveDegreesOfFreedom& Freedom() const { return m_ActiveDegreesOfFreedom; }
+  const Units& CurrentUnits() const { return m_Units; }
+
+  /// Bytes of texts that do not stand in the file as the records hold them.
+  TextStore& Texts() { return m_Texts; }
+
+  void CountRows(std::size_t count) { m_RowCount += count; }
+  std::uint64_t RowCount() const { return m_RowCount; }
+
+ private:
+  RecordTables m_Tables;
+  ActiveDegreesOfFreedom m_ActiveDegreesOfFreedom;
+  Units m_Units;
+  TextStore m_Texts;
+  std::uint64_t m_RowCount = 0;
+};
+
+/// A row that cannot be accepted, which ends the reading of the file.
+struct Refusal {
+  std::uint64_t Line;
+  std::string Reason;
+};
+
+/// The rows of a block.
+using TableRows = std::span<const SourceRow>;
+
+/// Takes the rows of a block into the model. A table that must refuse the file gives the reason,
+/// and shows a message of its own where it has one.
+using RowParser = std::optional<Refusal> (*)(TableRows rows, CModel& model, Messages& shown);
+
+/// Stores the rows of a block as records of one kind, unless `refuse` gives the reason why a record
+/// cannot be accepted.
+template <class Record, class Refuse>
+std::optional<Refusal> StoreRowsUnless(TableRows rows, CModel& model, Refuse refuse) {
+  RowScan scan;
+  std::uint32_t position = 0;
+  for (const SourceRow& row : rows) {
+    scan.SetRow(row.Content);
+    const Record record = ParseRow<Record>(scan, model.Texts());
+    if (std::optional<std::string> reason = refuse(record)) {
+      return Refusal{row.Line, std::move(*reason)};
+    }
+    model.Add(++position, record);
+  }
+  model.CountRows(rows.size());
+  return std::nullopt;
+}
+
+/// Stores the rows of a block as records of one kind.
+template <class Record>
+std::optional<Refusal> StoreRows(TableRows rows, CModel& model, Messages& /*shown*/) {
+  return StoreRowsUnless<Record>(rows, model,
+                                 [](const Record&) -> std::optional<std::string> { return {}; });
+}
+
+}  // namespace s2k2ngt

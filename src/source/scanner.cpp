@@ -1,0 +1,189 @@
+#include "source/scanner.h"
+
+#include "source/table_catalogue.h"
+
+#include <s2k2ngt/converter.h>
+
+#include <algorithm>
+#include <array>
+
+namespace s2k2ngt {
+namespace {
+
+constexpr std::size_t kShortBetweenBlocks = 5;
+constexpr std::size_t kShortInBlock = 3;
+constexpr int kShortLinesAtMost = 10;
+/// Foreign lines are passed over only at the head of a file.
+constexpr std::int64_t kForeignLinesAtMost = 3;
+
+constexpr std::array<Text, 7> kOlderFormatWords = {"SYSTEM", "JOINT", "RESTRAINT", "MATERIAL",
+                                                   "FRAME",  "LOAD",  "PATTERN"};
+
+/// The title as people read it: what stands between the quotes.
+std::string TitleText(Text titleLine) {
+  const std::size_t opening = titleLine.find('"');
+  if (opening == Text::npos) {
+    return std::string(TrimRight(titleLine));
+  }
+  const Text title = titleLine.substr(opening + 1);
+  return std::string(TrimRight(title.substr(0, title.find('"'))));
+}
+
+}  // namespace
+
+bool JoinContinuation(Text& row) {
+  row = TrimLeft(row);
+  const std::size_t mark = row.find(" _");
+  if (mark != Text::npos) {
+    row = row.substr(0, mark);
+    return true;
+  }
+  row = TrimRight(row);
+  return false;
+}
+
+TableScanner::TableScanner(Text image, TextStore& texts, Messages& messages, Progress& progress,
+                           TableSink& sink)
+    : m_Lines(image), m_Texts(texts), m_Messages(messages), m_Progress(progress), m_Sink(sink) {}
+
+int TableScanner::Read() {
+  m_Progress.SetPhase(1);
+  State state = State::BetweenBlocks;
+  for (;;) {
+    switch (state) {
+      case State::BetweenBlocks:
+        m_Title.clear();
+        state = FindBlock();
+        break;
+      case State::BlockFound:
+        state = ReadBlock();
+        break;
+      case State::BlockEnded:
+        if (m_TableId > 0 && !m_Sink.DispatchRows({m_TableId, m_Title, m_TitleLine, m_Rows})) {
+          return kFailed;
+        }
+        state = State::BetweenBlocks;
+        break;
+      case State::FileEnded:
+        return kConverted;
+      case State::Refused:
+        return kFailed;
+      case State::Stopped:
+        return kStopped;
+    }
+  }
+}
+
+TableScanner::State TableScanner::FindBlock() {
+  int shortLines = 0;
+  for (;;) {
+    const bool isNew = m_Lines.Next();
+    if (m_Lines.Length() < kShortBetweenBlocks) {
+      if (shortLines == kShortLinesAtMost) {
+        return State::FileEnded;
+      }
+      ++shortLines;
+      continue;
+    }
+    shortLines = 0;
+    const std::string line = ToUpper(m_Lines.Line());
+    ++m_LineCounter;
+    if (line.starts_with("END")) {
+      return State::FileEnded;
+    }
+    if (line.starts_with("FILE")) {
+      if (!isNew) {
+        return RefuseEndlessText();
+      }
+      continue;
+    }
+    if (line.starts_with("TABLE")) {
+      m_TableId = IdOfTitle(line);
+      m_Title = TitleText(m_Lines.Line());
+      m_TitleLine = m_Lines.LineNumber();
+      return State::BlockFound;
+    }
+    const bool isOlderFormat =
+        std::ranges::any_of(kOlderFormatWords, [&](Text word) { return line.starts_with(word); });
+    const State state = TakeForeignLine(isOlderFormat);
+    if (state != State::BetweenBlocks) {
+      return state;
+    }
+  }
+}
+
+TableScanner::State TableScanner::TakeForeignLine(bool isOlderFormat) {
+  if (isOlderFormat) {
+    return Refuse("the file is of the format before V8");
+  }
+  if (m_LineCounter > kForeignLinesAtMost) {
+    return Refuse("the line is neither a table's title nor the end of the file");
+  }
+  m_Messages.Show("IDS_S2KV8_DATA_Not_Convert");
+  return State::BetweenBlocks;
+}
+
+TableScanner::State TableScanner::ReadBlock() {
+  StartBlock();
+  for (;;) {
+    const bool isNew = m_Lines.Next();
+    if (m_Lines.Length() < kShortInBlock) {
+      return State::BlockEnded;
+    }
+    const Text line = m_Lines.Line();
+    if (!isNew) {
+      // The buffer would give this line for ever. A block that ends on FILE is no way out: between
+      // blocks FILE is passed over, again for ever.
+      return RefuseEndlessText();
+    }
+    if (!m_Progress.Step(static_cast<int>(m_LineCounter))) {
+      return State::Stopped;
+    }
+    ++m_LineCounter;
+    if (line.starts_with("END") || line.starts_with("FILE")) {
+      return State::BlockEnded;
+    }
+    if (line.starts_with("TABLE")) {
+      // Meant so: the block starts over under the title that opened it. The new title is not
+      // looked at, and the rows read so far are lost.
+      StartBlock();
+      continue;
+    }
+    if (m_TableId > 0) {
+      AddLineToRow(line);
+    }
+  }
+}
+
+void TableScanner::StartBlock() {
+  m_Rows.clear();
+  m_PendingText.clear();
+  m_RowGoesOn = false;
+}
+
+void TableScanner::AddLineToRow(Text line) {
+  const bool goesOn = JoinContinuation(line);
+  if (!m_RowGoesOn) {
+    m_PendingLine = m_Lines.LineNumber();
+  }
+  if (m_RowGoesOn || goesOn) {
+    m_PendingText += line;
+  }
+  if (!goesOn) {
+    m_Rows.push_back({m_RowGoesOn ? m_Texts.Keep(m_PendingText) : line, m_PendingLine});
+    m_PendingText.clear();
+  }
+  m_RowGoesOn = goesOn;
+}
+
+TableScanner::State TableScanner::Refuse(const std::string& reason) {
+  m_Messages.Show("IDS_S2KV8_Not_Convert");
+  m_Reason = reason;
+  return State::Refused;
+}
+
+TableScanner::State TableScanner::RefuseEndlessText() {
+  return Refuse("the file ends without a line that begins with END");
+}
+
+}  // namespace s2k2ngt

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "common/messages.h"
+#include "common/progress.h"
+#include "source/line_reader.h"
+#include "source/str_parser.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace s2k2ngt {
+
+/// A block of rows as it stands in the file.
+struct TableBlock {
+  int TableId;         // above 0
+  Text Title;          // what stands between the quotes of the title line
+  std::uint64_t Line;  // of the title
+  std::span<const SourceRow> Rows;
+};
+
+/// Takes the blocks that a scan finds, each at its end.
+class TableSink {
+ public:
+  virtual ~TableSink() = default;
+  /// False ends the scan in failure.
+  virtual bool DispatchRows(const TableBlock& block) = 0;
+
+ protected:
+  TableSink() = default;
+  TableSink(const TableSink&) = default;
+  TableSink& operator=(const TableSink&) = default;
+};
+
+/// Walks a source file line by line, finds its blocks of rows, and hands each to a sink.
+///
+/// A file is title lines (`TABLE:  "JOINT COORDINATES"`), each followed by the rows of its block up
+/// to an all but empty line, and at last a line that begins with END. A row goes on in the next
+/// line where it holds " _". The scanner knows nothing of a table's keys.
+///
+/// The rules for short, foreign and repeated lines are those of the C program that first read these
+/// files: at the end of the file its line buffer kept the last line, and files are around that end
+/// only because of it.
+class TableScanner {
+ public:
+  TableScanner(Text image, TextStore& texts, Messages& messages, Progress& progress,
+               TableSink& sink);
+
+  /// Scans the whole file. Returns a RunResult.
+  int Read();
+
+  /// Where the scan stands: line of the file, title of the block (empty outside one), and after a
+  /// failure of its own the reason.
+  std::uint64_t LineNumber() const { return m_Lines.LineNumber(); }
+  const std::string& Title() const { return m_Title; }
+  const std::string& Reason() const { return m_Reason; }
+
+ private:
+  enum class State { BetweenBlocks, BlockFound, BlockEnded, FileEnded, Refused, Stopped };
+
+  State FindBlock();
+  State ReadBlock();
+  State TakeForeignLine(bool isOlderFormat);
+  State Refuse(const std::string& reason);
+  State RefuseEndlessText();
+  void StartBlock();
+  void AddLineToRow(Text line);
+
+  LineReader m_Lines;
+  TextStore& m_Texts;
+  Messages& m_Messages;
+  Progress& m_Progress;
+  TableSink& m_Sink;
+
+  std::int64_t m_LineCounter = 0;  // lines that count: neither short nor, in a block, its end
+  int m_TableId = 0;
+  std::string m_Title;
+  std::uint64_t m_TitleLine = 0;
+  std::vector<SourceRow> m_Rows;
+  std::string m_PendingText;  // the row whose end is not read yet
+  std::uint64_t m_PendingLine = 0;
+  bool m_RowGoesOn = false;
+  std::string m_Reason;
+};
+
+/// Trims a line of a row and cuts it at its continuation mark, the first " _". True when it has
+/// one, that is when the row goes on in the next line.
+bool JoinContinuation(Text& row);
+
+}  // namespace s2k2ngt

@@ -1,0 +1,64 @@
+#include "source/single_records.h"
+
+#include <s2k2ngt/exceptions.h>
+
+#include <vector>
+
+namespace s2k2ngt {
+namespace {
+
+RowScan FirstRow(TableRows rows) {
+  if (rows.empty()) {
+    throw InvalidArgumentException("the table has no row");
+  }
+  RowScan row;
+  row.SetRow(rows.front().Content);
+  return row;
+}
+
+}  // namespace
+
+template <>
+inline constexpr std::tuple kRowKeys<ActiveDegreesOfFreedom>{
+    Key{"UX=", &ActiveDegreesOfFreedom::UX}, Key{"UY=", &ActiveDegreesOfFreedom::UY},
+    Key{"UZ=", &ActiveDegreesOfFreedom::UZ}, Key{"RX=", &ActiveDegreesOfFreedom::RX},
+    Key{"RY=", &ActiveDegreesOfFreedom::RY}, Key{"RZ=", &ActiveDegreesOfFreedom::RZ}};
+
+std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model,
+                                                   Messages& /*shown*/) {
+  model.Set(ParseRow<ActiveDegreesOfFreedom>(FirstRow(rows), model.Texts()));
+  model.CountRows(1);
+  return std::nullopt;
+}
+
+std::optional<Refusal> StoreCoordinateSystem(TableRows rows, CModel& model, Messages& shown) {
+  // Where the system lies plays no part: joints state their coordinates in the global system.
+  struct CoordinateSystem {
+    Text Type = "Cartesian";
+  };
+  const RowScan row = FirstRow(rows);
+  CoordinateSystem system;
+  Key{"Type=", &CoordinateSystem::Type}.Read(row, model.Texts(), system);
+  if (system.Type != "Cartesian") {
+    shown.Show("IDS_S2KV8_NODE_NOT_Cylindrical");
+    return Refusal{rows.front().Line, "the first coordinate system has Type=" +
+                                          std::string(system.Type) + ", only Cartesian is read"};
+  }
+  model.CountRows(1);
+  return std::nullopt;
+}
+
+std::optional<Refusal> StoreUnits(TableRows rows, CModel& model, Messages& /*shown*/) {
+  std::vector<std::string> units;
+  if (CStrParser::GetStrings(FirstRow(rows), "CurrUnits=", units)) {
+    if (units.size() < 3) {
+      throw InvalidArgumentException("CurrUnits= must name force, length and temperature");
+    }
+    TextStore& texts = model.Texts();
+    model.Set(Units{texts.Keep(units[0]), texts.Keep(units[1]), texts.Keep(units[2])});
+  }
+  model.CountRows(1);
+  return std::nullopt;
+}
+
+}  // namespace s2k2ngt

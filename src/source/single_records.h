@@ -1,0 +1,22 @@
+#pragma once
+
+#include "source/model.h"
+
+namespace s2k2ngt {
+
+// The tables of which the model keeps one record, that of the first row of their block. Each throws
+// InvalidArgumentException when the block has no row: a file that announces its units and states
+// none cannot be trusted to be in the units that it would get by default.
+
+/// Whether the analysis has each of the six degrees of freedom.
+std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model, Messages& shown);
+
+/// The first coordinate system. One that is not Cartesian refuses the file, with a message: the
+/// coordinates of its joints could not be understood.
+std::optional<Refusal> StoreCoordinateSystem(TableRows rows, CModel& model, Messages& shown);
+
+/// The units: force, length, temperature. Throws InvalidArgumentException also when the row names
+/// fewer than the three.
+std::optional<Refusal> StoreUnits(TableRows rows, CModel& model, Messages& shown);
+
+}  // namespace s2k2ngt

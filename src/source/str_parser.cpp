@@ -1,0 +1,147 @@
+#include "source/str_parser.h"
+
+#include "common/numbers.h"
+
+#include <algorithm>
+
+namespace s2k2ngt {
+namespace {
+
+bool NeedsCleaning(Text value) { return value.find_first_of("\t\",") != Text::npos; }
+
+/// The value with tabs as blanks and without quotes; without any blank when it is a list.
+std::string Cleaned(Text value) {
+  std::string text(value);
+  std::replace(text.begin(), text.end(), '\t', ' ');
+  std::erase(text, '"');
+  if (text.find(',') != std::string::npos) {
+    std::erase(text, ' ');
+  }
+  return text;
+}
+
+bool IsOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/'; }
+
+double Combine(double left, char operation, double right) {
+  switch (operation) {
+    case '+':
+      return left + right;
+    case '-':
+      return left - right;
+    case '*':
+      return left * right;
+    default:
+      return left / right;
+  }
+}
+
+}  // namespace
+
+void RowScan::SetRow(Text row) {
+  m_Row = row;
+  m_EqualsSigns.clear();
+  for (std::size_t at = row.find('='); at != Text::npos; at = row.find('=', at + 1)) {
+    m_EqualsSigns.push_back(at);
+  }
+}
+
+std::optional<Text> RowScan::FindValue(Text key) const {
+  for (std::size_t sign = 0; sign < m_EqualsSigns.size(); ++sign) {
+    const std::size_t end = m_EqualsSigns[sign] + 1;
+    if (!m_Row.substr(0, end).ends_with(key)) {
+      continue;
+    }
+    Text value = m_Row.substr(end);
+    if (sign + 1 < m_EqualsSigns.size()) {
+      // A blank right behind the key is not looked at: "Name= Next=1" gives the value " Next=1".
+      const std::size_t nextSign = m_EqualsSigns[sign + 1] - end;
+      const std::size_t blank = value.substr(0, nextSign).rfind(' ');
+      if (blank != Text::npos && blank > 0) {
+        value = value.substr(0, blank);
+      }
+    }
+    return TrimRight(value);
+  }
+  return std::nullopt;
+}
+
+bool CStrParser::GetDoubles(const RowScan& row, Text key, std::vector<double>& values) {
+  const std::optional<Text> value = row.FindValue(key);
+  if (value) {
+    SplitDoubles(*value, values);
+  }
+  return value.has_value();
+}
+
+bool CStrParser::GetStrings(const RowScan& row, Text key, std::vector<std::string>& values) {
+  const std::optional<Text> value = row.FindValue(key);
+  if (value) {
+    SplitStrings(*value, values);
+  }
+  return value.has_value();
+}
+
+void CStrParser::SplitDoubles(Text text, std::vector<double>& values) {
+  std::vector<std::string> pieces;
+  SplitStrings(text, pieces);
+  for (const std::string& piece : pieces) {
+    values.push_back(pieces.size() == 1 ? ParseReal(piece) : EvalExpr(piece));
+  }
+}
+
+void CStrParser::SplitStrings(Text text, std::vector<std::string>& values) {
+  const std::string cleaned = Cleaned(text);
+  std::size_t first = 0;
+  for (std::size_t comma = cleaned.find(','); comma != std::string::npos;
+       comma = cleaned.find(',', first)) {
+    values.push_back(cleaned.substr(first, comma - first));
+    first = comma + 1;
+  }
+  values.push_back(cleaned.substr(first));
+}
+
+double CStrParser::FirstDouble(Text value) {
+  if (!NeedsCleaning(value)) {
+    return ParseReal(value);
+  }
+  const std::string cleaned = Cleaned(value);
+  const std::size_t comma = cleaned.find(',');
+  return comma == std::string::npos ? ParseReal(cleaned) : EvalExpr(Text(cleaned).substr(0, comma));
+}
+
+Text CStrParser::FirstString(Text value, TextStore& store) {
+  if (!NeedsCleaning(value)) {
+    return value;
+  }
+  if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
+    const Text inner = value.substr(1, value.size() - 2);
+    if (!NeedsCleaning(inner)) {
+      return inner;
+    }
+  }
+  const std::string cleaned = Cleaned(value);
+  return store.Keep(Text(cleaned).substr(0, cleaned.find(',')));
+}
+
+double CStrParser::EvalExpr(Text text) {
+  text = TrimRight(text);
+  std::size_t operand = 0;
+  char operation = '\0';
+  double result = 0.0;
+  const auto take = [&](std::size_t end) {
+    const double value = ParseReal(text.substr(operand, end - operand));
+    result = operation == '\0' ? value : Combine(result, operation, value);
+  };
+  for (std::size_t at = 1; at + 1 < text.size(); ++at) {
+    const char before = text[at - 1];
+    if (IsOperator(text[at]) && before != 'E' && before != 'e' && before != ' ') {
+      take(at);
+      operation = text[at];
+      operand = at + 1;
+    }
+  }
+  take(text.size());
+  return result;
+}
+
+}  // namespace s2k2ngt

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/messages.h"
+#include "source/model.h"
+#include "target/element_numbers.h"
+#include "target/line_writer.h"
+#include "target/ngt_model.h"
+
+namespace s2k2ngt {
+
+/// What the stages found that could not be carried over as it stood. The writer of the section
+/// concerned shows the message, if the section has records at all.
+struct DeferredWarnings {
+  bool bNodeNotAssigned = false;  ///< no stage sets it; the test of its writer stays
+  bool bElemLengthZero = false;
+  bool bFrameLocalAxesLost = false;
+  bool bPlateLocalAxesLost = false;
+  bool bSolidLocalAxesLost = false;
+  bool bFrameEndPartial = false;
+  bool bFrameEndOffsetRelease = false;  ///< no stage sets it; the test of its writer stays
+  bool bMaterialAnisotropic = false;
+  bool bSectionNotTranslated = false;
+  bool bAreaModifiersLost = false;
+};
+
+/// All that a stage works on, and a writer with it. It lives as long as the run.
+struct Conversion {
+  CModel& Source;
+  CNgtModel& Target;
+  ElementNumbers& Elements;
+  DeferredWarnings& Warnings;
+  Messages& Shown;
+};
+
+/// Below this absolute value a number of the source file counts as zero.
+inline constexpr double kTolerance = 1e-15;
+
+/// A stage of the conversion, or a step of one: true when done, false when it failed.
+using StageFunction = bool (*)(Conversion& run);
+
+/// The writer of a section of the output: true when done, false when it failed. A section without
+/// records writes nothing, neither header nor blank line.
+using WriterFunction = bool (*)(Conversion& run, LineWriter& out);
+
+}  // namespace s2k2ngt

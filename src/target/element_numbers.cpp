@@ -1,0 +1,36 @@
+#include "target/element_numbers.h"
+
+#include "common/numbers.h"
+
+namespace s2k2ngt {
+
+std::int32_t ElementNumbers::NumberAt(std::uint32_t position, Text label, Text family) {
+  if (!Renumbered()) {
+    return ParseInteger(label);
+  }
+  const auto iEl = static_cast<std::int32_t>(position);
+  m_ElemMap.Insert(position, {position, iEl, {label, family}});
+  return iEl;
+}
+
+bool ElementNumbers::FindElemByLabel(Text label, Text family, std::int32_t& iEl) const {
+  if (m_ElemMap.Empty()) {
+    return true;
+  }
+  const auto element = m_ElemMap.FirstWith<&MAP_ELEM::Name>(ElementName{label, family});
+  if (element) {
+    iEl = element->Value.iEl;
+  }
+  return element.has_value();
+}
+
+std::int32_t ElementReferences::NumberOf(Text label) {
+  if (m_Numbers.Renumbered()) {
+    m_Numbers.FindElemByLabel(label, m_Family, m_Number);
+  } else {
+    m_Number = ParseInteger(label);
+  }
+  return m_Number;
+}
+
+}  // namespace s2k2ngt

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "common/keyed_table.h"
+#include "common/text.h"
+#include "target/ngt_model.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+
+namespace s2k2ngt {
+
+/// What tells an element of the source file from all others: each family has labels of its own.
+struct ElementName {
+  Text Label;
+  Text Family;  // "FRAME", "AREA" or "SOLID"
+  bool operator==(const ElementName&) const = default;
+};
+
+}  // namespace s2k2ngt
+
+template <>
+struct std::hash<s2k2ngt::ElementName> {
+  std::size_t operator()(const s2k2ngt::ElementName& name) const noexcept {
+    // Few families share a label, so that their names may share a hash.
+    return std::hash<s2k2ngt::Text>()(name.Label) ^ name.Family.size();
+  }
+};
+
+namespace s2k2ngt {
+
+/// Ties an element to its number, for models whose elements are renumbered.
+struct MAP_ELEM {
+  std::uint32_t iKey = 0;
+  std::int32_t iEl = 0;
+  ElementName Name;
+};
+
+inline constexpr Text kFrameFamily = "FRAME";
+inline constexpr Text kAreaFamily = "AREA";
+inline constexpr Text kSolidFamily = "SOLID";
+
+/// How the labels of frames, areas and solids become the element numbers of the output, which has
+/// one range of numbers for all families.
+///
+/// An element keeps its label as its number when all labels are numbers and no two families share
+/// one. Otherwise all elements are numbered by position while *ELEMENT is written; all references
+/// to elements are written behind it.
+class ElementNumbers {
+ public:
+  /// Notes a label that the conversion has met.
+  void NoteLabel(Text label) { ElemLabelsNumeric = ElemLabelsNumeric && IsAllDigits(label); }
+
+  bool Renumbered() const { return !ElemLabelsNumeric || ElemFamiliesOverlap; }
+
+  /// The number of the element that is written at this position, from 1, among all elements; with
+  /// a renumbered model it is noted for the references to come.
+  std::int32_t NumberAt(std::uint32_t position, Text label, Text family);
+
+  /// Renumbered number of an element. Found: `iEl` is set; not found: it is left and the result is
+  /// false. An empty map counts as found and leaves `iEl`.
+  bool FindElemByLabel(Text label, Text family, std::int32_t& iEl) const;
+
+  bool ElemLabelsNumeric = true;
+  bool ElemFamiliesOverlap = false;
+
+ private:
+  CKeyedTable<MAP_ELEM> m_ElemMap{kTargetBuckets};
+};
+
+/// The element numbers of the references that one call of a writer prints. A reference to an
+/// element that is not there prints the number of the reference before it, 0 before the first: the
+/// rows of an unknown element stay with their neighbour, which is where engineers look for them.
+class ElementReferences {
+ public:
+  ElementReferences(const ElementNumbers& numbers, Text family)
+      : m_Numbers(numbers), m_Family(family) {}
+
+  std::int32_t NumberOf(Text label);
+
+ private:
+  const ElementNumbers& m_Numbers;
+  Text m_Family;
+  std::int32_t m_Number = 0;
+};
+
+}  // namespace s2k2ngt

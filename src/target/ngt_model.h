@@ -1,0 +1,78 @@
+#pragma once
+
+#include "common/record_tables.h"
+#include "common/text.h"
+
+#include <cstdint>
+
+namespace s2k2ngt {
+
+/// Ties a joint's label to its node number, for models whose joint labels are not all numbers.
+struct MAP_NODE {
+  std::uint32_t iKey = 0;
+  std::int32_t iNode = 0;
+  Text Label;
+};
+
+/// Bucket count of most tables of the target model. A target record with another count says so by
+/// `static constexpr std::uint32_t kBuckets`.
+inline constexpr std::uint32_t kTargetBuckets = 10'001;
+
+/// The structure type command, which the analysis cases fill.
+struct T_NGT_STYP_D {
+  std::int32_t iSTYP = 0;
+  std::int32_t iSMAS = 0;
+  double GRAV = 9.806;
+  double TEMPER = 0.0;
+  Text bALIGNBEAM = "NO";
+  Text bALIGNSLAB = "NO";
+  bool bWrite = false;
+};
+
+/// The output file as tables of target records, one for each kind of record. The stages fill it and
+/// the writers print it. The room of a record's topic declares it.
+class CNgtModel {
+ public:
+  /// The table of a record, empty at first.
+  template <class Record>
+  CKeyedTable<Record>& Table() {
+    if constexpr (requires { Record::kBuckets; }) {
+      return m_Tables.Of<Record>(Record::kBuckets);
+    } else {
+      return m_Tables.Of<Record>(kTargetBuckets);
+    }
+  }
+
+  /// Stores a copy of the record under the key, in the place of one that is there.
+  template <class Record>
+  void Add(std::uint32_t key, const Record& record) {
+    Table<Record>().Insert(key, record);
+  }
+
+  /// The node number of a joint's label. Found: `iNode` is set; not found: it is left and the
+  /// result is false. An empty map counts as found and leaves `iNode`.
+  bool FindNodeByLabel(Text label, std::int32_t& iNode) const;
+
+  /// The number that a node has in the output: the label itself when all labels are numbers, else
+  /// the joint's row position; 0 for a joint that is not there.
+  std::int32_t NodeNumber(Text label) const;
+
+  /// Bytes of texts that do not stand in the source file as the records hold them.
+  TextStore& Texts() { return m_Texts; }
+
+  CKeyedTable<MAP_NODE> m_NodeMap{kTargetBuckets};
+  bool NodeLabelsNumeric = true;
+  T_NGT_STYP_D StructureType;
+
+  // Set where something is lost, shown by the writer of the section concerned.
+  bool bSectionMultiSegment = false;
+  bool bSectionStartMissing = false;
+  bool bSectionEndMissing = false;
+  bool bAreaPropertyLost = false;
+
+ private:
+  RecordTables m_Tables;
+  TextStore m_Texts;
+};
+
+}  // namespace s2k2ngt

@@ -1,0 +1,32 @@
+#include "target/output_file.h"
+
+#include <s2k2ngt/exceptions.h>
+
+#include <cerrno>
+
+namespace s2k2ngt {
+
+OutputFile::OutputFile(const std::string& path)
+    : m_Path(path), m_File(std::fopen(path.c_str(), "wb")) {
+  if (m_File == nullptr) {
+    Fail("Cannot create output file");
+  }
+  // The line writer hands over large pieces; a second buffer would only copy them.
+  std::setvbuf(m_File.get(), nullptr, _IONBF, 0);
+}
+
+void OutputFile::Write(std::string_view bytes) {
+  if (std::fwrite(bytes.data(), 1, bytes.size(), m_File.get()) != bytes.size()) {
+    Fail("Cannot write output file");
+  }
+}
+
+void OutputFile::Close() {
+  if (std::fclose(m_File.release()) != 0) {
+    Fail("Cannot write output file");
+  }
+}
+
+void OutputFile::Fail(const std::string& what) const { throw FileException(what, errno, m_Path); }
+
+}  // namespace s2k2ngt

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace s2k2ngt {
+
+/// A file created for writing bytes. Every failure throws a FileException with the system's error
+/// and the file's name.
+class OutputFile {
+ public:
+  /// Replaces a file that is there.
+  explicit OutputFile(const std::string& path);
+
+  void Write(std::string_view bytes);
+  /// Hands all bytes to the system. A file that goes without it is closed as it stands.
+  void Close();
+
+ private:
+  [[noreturn]] void Fail(const std::string& what) const;
+
+  struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+  };
+  std::string m_Path;
+  std::unique_ptr<std::FILE, Closer> m_File;
+};
+
+}  // namespace s2k2ngt
