@@ -16,6 +16,7 @@
 
 #include "s2k2ngt/export.h"
 
+/* NOLINTBEGIN(modernize-deprecated-headers, modernize-use-using): this is C */
 #include <stddef.h>
 
 #ifdef __cplusplus
@@ -61,6 +62,8 @@ S2K2NGT_API const char* s2k2ngt_version(void);
 S2K2NGT_API size_t s2k2ngt_message_count(void);
 S2K2NGT_API const char* s2k2ngt_message_key(size_t position);
 S2K2NGT_API const char* s2k2ngt_message_text(const char* key);
+
+/* NOLINTEND(modernize-deprecated-headers, modernize-use-using) */
 
 #ifdef __cplusplus
 }

@@ -91,7 +91,7 @@ std::optional<Refusal> StoreRowsUnless(TableRows rows, CModel& model, Refuse ref
   std::uint32_t position = 0;
   for (const SourceRow& row : rows) {
     scan.SetRow(row.Content);
-    const Record record = ParseRow<Record>(scan, model.Texts());
+    const auto record = ParseRow<Record>(scan, model.Texts());
     if (std::optional<std::string> reason = refuse(record)) {
       return Refusal{row.Line, std::move(*reason)};
     }

@@ -47,6 +47,9 @@ struct Key {
   }
 };
 
+template <class Record, class Field>
+Key(Text, Field Record::*) -> Key<Record, Field>;
+
 /// A key that sets a field when the row states it at all, whatever its value.
 template <class Record>
 struct States {
@@ -57,6 +60,9 @@ struct States {
     record.*Target = record.*Target || row.FindValue(Name).has_value();
   }
 };
+
+template <class Record>
+States(Text, bool Record::*) -> States<Record>;
 
 /// A key of the table that the conversion has no use for.
 struct Unread {

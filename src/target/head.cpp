@@ -4,7 +4,7 @@ namespace s2k2ngt {
 namespace {
 
 std::string TargetForce(Text sourceForce) {
-  const std::string force = ToUpper(sourceForce);
+  std::string force = ToUpper(sourceForce);
   if (force == "TON") {
     return "TONF";
   }

@@ -120,11 +120,11 @@ class LineWriter {
   }
   void AppendArgument(std::string_view text, std::size_t width) { AppendPadded(text, width); }
   void AppendArgument(double value, std::size_t width) {
-    std::array<char, kRealSize> text;
+    std::array<char, kRealSize> text{};
     AppendPadded({text.data(), FormatReal(text.data(), value)}, width);
   }
   void AppendArgument(std::int32_t value, std::size_t width) {
-    std::array<char, kIntegerSize> text;
+    std::array<char, kIntegerSize> text{};
     AppendPadded({text.data(), FormatInteger(text.data(), value)}, width);
   }
   void MakeRoomFor(std::string_view text);

@@ -1,0 +1,100 @@
+#include "support/conversion_run.h"
+
+#include "support/temporary_folder.h"
+
+#include <sstream>
+
+std::optional<std::string> ScriptedPlatform::ChooseFile(const FileDialog& dialog) {
+  DialogExtension = dialog.DefaultExtension;
+  DialogFilter = dialog.Filter;
+  return ChosenFile;
+}
+
+void ScriptedPlatform::ShowMessage(const std::string& key, const std::string& text) {
+  Messages.push_back({key, text});
+}
+
+void ScriptedPlatform::OpenProgress() {
+  ++WindowsOpened;
+  ++WindowsOpen;
+}
+
+void ScriptedPlatform::CloseProgress() { --WindowsOpen; }
+
+void ScriptedPlatform::SetStatus(const std::string& text) { Statuses.push_back(text); }
+
+void ScriptedPlatform::SetRange(int high) { Ranges.push_back(high); }
+
+void ScriptedPlatform::SetPosition(int position) { Positions.push_back(position); }
+
+bool ScriptedPlatform::AskStop() {
+  ++Steps;
+  if (OnStep) {
+    OnStep(Steps);
+  }
+  return Steps == StopAtStep;
+}
+
+std::string ConversionRun::Section(std::string_view command) const {
+  const std::string text = "\n" + Output;
+  // The command stands alone on its line or is followed by blanks and its title.
+  for (std::size_t at = text.find("\n" + std::string(command)); at != std::string::npos;
+       at = text.find("\n" + std::string(command), at + 1)) {
+    const std::size_t begin = at + 1;
+    const char behind = text[begin + command.size()];
+    if (behind != ' ' && behind != '\n') {
+      continue;
+    }
+    // Some headers are followed by an empty line of their own.
+    std::size_t end = text.find("\n\n", begin);
+    if (end != std::string::npos && text.compare(end + 2, 1, ";") == 0) {
+      end = text.find("\n\n", end + 2);
+    }
+    return text.substr(begin, end == std::string::npos ? end : end + 2 - begin);
+  }
+  return {};
+}
+
+std::vector<std::string> ConversionRun::Lines(std::string_view command) const {
+  std::vector<std::string> lines;
+  std::istringstream section(Section(command));
+  for (std::string line; std::getline(section, line);) {
+    if (line.starts_with('\t')) {
+      lines.push_back(line);
+    }
+  }
+  return lines;
+}
+
+ConversionRun ConvertBytes(const std::string& bytes) {
+  const TemporaryFolder folder;
+  const std::string path = folder.FileName("model.s2k");
+  WriteFile(path, bytes);
+  ScriptedPlatform platform;
+  s2k2ngt::CConverter converter(platform);
+  ConversionRun run;
+  run.Result = converter.Run(path.c_str());
+  run.Failure = converter.Failure();
+  for (const ScriptedPlatform::Message& message : platform.Messages) {
+    if (message.Key != "IDS_S2KV8_Export_must_be_executed") {
+      run.Messages.push_back(message.Key.empty() ? message.Text : message.Key);
+      run.MessageTexts.push_back(message.Text);
+    }
+  }
+  const std::string output = folder.FileName("model.ngt");
+  run.HasOutput = std::filesystem::exists(output);
+  if (run.HasOutput) {
+    run.Output = ReadFile(output);
+  }
+  return run;
+}
+
+std::string FileWith(std::string_view tables) {
+  if (tables.starts_with('\n')) {
+    tables.remove_prefix(1);
+  }
+  return "File model.s2k was saved on 5/12/03 at 9:30:00\n \n" + std::string(tables) +
+         "\nEND TABLE DATA\n";
+}
+
+ConversionRun Convert(std::string_view tables) { return ConvertBytes(FileWith(tables)); }
