@@ -38,7 +38,7 @@ std::array<double, 6> PrismaticDimensions(Text shapeCode, const T_FRSG_D& sectio
     const double width = (section.t2 - section.dis) * 0.5;
     return {section.t3, width, section.tw, section.tf, section.dis, 0.0};
   }
-  return {section.t3, section.t2, section.tf, section.tw, section.t2b, section.tfb};
+  return {section.t3, section.t2, section.tw, section.tf, section.t2b, section.tfb};
 }
 
 /// Dimensions at an end of a tapered section. Double angles are not taken apart here: the target
@@ -47,7 +47,7 @@ std::array<double, 6> TaperedDimensions(Text shapeCode, const T_FRSG_D& section)
   if (shapeCode == "P") {
     return {section.t3, section.tw};
   }
-  return {section.t3, section.t2, section.tf, section.tw, section.t2b, section.tfb};
+  return {section.t3, section.t2, section.tw, section.tf, section.t2b, section.tfb};
 }
 
 SectionEnd EndWith(const std::array<double, 6>& dimensions, const T_FRSG_D& section) {

@@ -49,14 +49,17 @@ std::optional<Refusal> StoreCoordinateSystem(TableRows rows, CModel& model, Mess
 }
 
 std::optional<Refusal> StoreUnits(TableRows rows, CModel& model, Messages& /*shown*/) {
-  std::vector<std::string> units;
-  if (CStrParser::GetStrings(FirstRow(rows), "CurrUnits=", units)) {
-    if (units.size() < 3) {
+  // As with every row: what this one does not state is the default, whatever an earlier block said.
+  Units units;
+  std::vector<std::string> words;
+  if (CStrParser::GetStrings(FirstRow(rows), "CurrUnits=", words)) {
+    if (words.size() < 3) {
       throw InvalidArgumentException("CurrUnits= must name force, length and temperature");
     }
     TextStore& texts = model.Texts();
-    model.Set(Units{texts.Keep(units[0]), texts.Keep(units[1]), texts.Keep(units[2])});
+    units = {texts.Keep(words[0]), texts.Keep(words[1]), texts.Keep(words[2])};
   }
+  model.Set(units);
   model.CountRows(1);
   return std::nullopt;
 }

@@ -1,0 +1,254 @@
+#include "support/command_run.h"
+#include "support/conversion_run.h"
+#include "support/temporary_folder.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sys/stat.h>
+
+namespace {
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+const std::string kOneJoint = FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=1   XorR=2\n");
+
+class CommandTest : public testing::Test {
+ protected:
+  CommandRun Call(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), S2K2NGT_COMMAND);
+    return RunCommand({.Words = arguments, .Folder = m_Folder.Path()});
+  }
+  void Write(const std::string& name, const std::string& bytes) {
+    WriteFile(m_Folder.FileName(name), bytes);
+  }
+  bool Exists(const std::string& name) { return std::filesystem::exists(m_Folder.Path() / name); }
+
+  TemporaryFolder m_Folder;
+};
+
+std::vector<json> JsonLines(const std::string& out) {
+  std::vector<json> objects;
+  std::istringstream lines(out);
+  for (std::string line; std::getline(lines, line);) {
+    objects.push_back(json::parse(line));
+  }
+  return objects;
+}
+
+TEST_F(CommandTest, ConvertsBesideTheInputAndTellsOnStandardError) {
+  Write("tower.s2k", kOneJoint);
+  const CommandRun run = Call({"tower.s2k"});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(run.Out, "");
+  EXPECT_THAT(run.Err, StartsWith("tower.s2k: The file must be"));
+  EXPECT_TRUE(run.Err.ends_with("s2k2ngt: tower.s2k: converted to tower.ngt\n")) << run.Err;
+  EXPECT_THAT(ReadFile(m_Folder.FileName("tower.ngt")), HasSubstr("\n;  tower.ngt\n"));
+}
+
+TEST_F(CommandTest, JsonHoldsInputOutputResultMessagesAndError) {
+  Write("tower.s2k", FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=A\n"));
+  const CommandRun run = Call({"--json", "tower.s2k"});
+  EXPECT_EQ(run.Status, 0);
+  ASSERT_EQ(JsonLines(run.Out).size(), 1U);
+  const json object = JsonLines(run.Out)[0];
+  EXPECT_EQ(object["input"], "tower.s2k");
+  EXPECT_EQ(object["output"], "tower.ngt");
+  EXPECT_EQ(object["result"], 0);
+  EXPECT_EQ(object["error"], nullptr);
+  EXPECT_EQ(object.size(), 5U);
+  ASSERT_EQ(object["messages"].size(), 2U);
+  EXPECT_EQ(object["messages"][0]["key"], "IDS_S2KV8_Export_must_be_executed");
+  EXPECT_EQ(object["messages"][1]["key"], "IDS_S2KV8_NODE_Renumbering");
+  EXPECT_THAT(object["messages"][1]["text"].get<std::string>(), HasSubstr("renumbered"));
+}
+
+TEST_F(CommandTest, FailedFileIsNullErrorTextAndStatusTwo) {
+  Write("ring.s2k",
+        FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=5   CoordType=Cylindrical\n"));
+  const CommandRun run = Call({"--json", "ring.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  const json object = JsonLines(run.Out).at(0);
+  EXPECT_EQ(object["output"], nullptr);
+  EXPECT_EQ(object["result"], -1);
+  const std::string error =
+      "ring.s2k:4: reading table \"JOINT COORDINATES\": joint 5 has CoordType=Cylindrical, only "
+      "Cartesian is read";
+  EXPECT_EQ(object["error"], error);
+  EXPECT_THAT(run.Err, HasSubstr("s2k2ngt: " + error + "\n"));
+  EXPECT_FALSE(Exists("ring.ngt"));
+}
+
+TEST_F(CommandTest, MissingFileIsTold) {
+  const CommandRun run = Call({"--json", "missing.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  const json object = JsonLines(run.Out).at(0);
+  EXPECT_EQ(object["result"], -1);
+  EXPECT_EQ(object["error"], "missing.s2k: cannot open the input file: No such file or directory");
+  ASSERT_EQ(object["messages"].size(), 1U);
+  EXPECT_EQ(object["messages"][0]["key"], "");
+  EXPECT_EQ(object["messages"][0]["text"], "Cannot open input file!");
+}
+
+TEST_F(CommandTest, FolderIsTold) {
+  std::filesystem::create_directory(m_Folder.Path() / "models");
+  const CommandRun run = Call({"models"});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_THAT(run.Err,
+              HasSubstr("s2k2ngt: models: cannot open the input file: it is a directory\n"));
+}
+
+TEST_F(CommandTest, OutputThatCannotBeCreatedIsToldInWords) {
+  Write("tower.s2k", kOneJoint);
+  std::filesystem::create_directory(m_Folder.Path() / "tower.ngt");
+  const CommandRun run = Call({"--json", "tower.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  const json object = JsonLines(run.Out).at(0);
+  EXPECT_EQ(object["result"], -1);
+  EXPECT_EQ(object["output"], nullptr);
+  EXPECT_EQ(object["error"],
+            "tower.s2k: writing: Cannot create output file tower.ngt: Is a directory");
+}
+
+TEST_F(CommandTest, MissingUnitsAreToldInWords) {
+  Write("tower.s2k", FileWith("TABLE:  \"PROGRAM CONTROL\"\n   CurrUnits=KN\n"));
+  const CommandRun run = Call({"--json", "tower.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_EQ(
+      JsonLines(run.Out).at(0)["error"],
+      "tower.s2k:3: reading table \"PROGRAM CONTROL\": CurrUnits= must name force, length and "
+      "temperature");
+}
+
+TEST_F(CommandTest, InputIsNeverReplacedByItsOutput) {
+  Write("tower.ngt", kOneJoint);
+  const CommandRun run = Call({"--json", "tower.ngt"});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_THAT(JsonLines(run.Out).at(0)["error"].get<std::string>(),
+              StartsWith("tower.ngt: the output would replace the input"));
+  EXPECT_EQ(ReadFile(m_Folder.FileName("tower.ngt")), kOneJoint);
+}
+
+TEST_F(CommandTest, LinkToTheInputIsNotReplacedEither) {
+  Write("tower.s2k", kOneJoint);
+  std::filesystem::create_symlink("tower.s2k", m_Folder.Path() / "tower.ngt");
+  EXPECT_EQ(Call({"tower.s2k"}).Status, 2);
+  EXPECT_EQ(ReadFile(m_Folder.FileName("tower.s2k")), kOneJoint);
+}
+
+TEST_F(CommandTest, FailureOfOneFileDoesNotStopTheRest) {
+  Write("a.s2k", kOneJoint);
+  Write("c.s2k", kOneJoint);
+  const CommandRun run = Call({"--json", "a.s2k", "b.s2k", "c.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  std::vector<int> results;
+  for (const json& object : JsonLines(run.Out)) {
+    results.push_back(object["result"]);
+  }
+  EXPECT_THAT(results, ElementsAre(0, -1, 0));
+  EXPECT_TRUE(Exists("c.ngt"));
+}
+
+TEST_F(CommandTest, LabelsOfOtherCharacterSetsDoNotBreakTheJson) {
+  Write("caf\xE9.s2k", kOneJoint);
+  const CommandRun run = Call({"--json", "caf\xE9.s2k"});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(JsonLines(run.Out).at(0)["input"], "caf\xEF\xBF\xBD.s2k");
+}
+
+TEST_F(CommandTest, QuietShowsNothingButFailures) {
+  Write("tower.s2k", kOneJoint);
+  EXPECT_EQ(Call({"--quiet", "tower.s2k"}).Err, "");
+  EXPECT_EQ(Call({"--quiet", "missing.s2k"}).Err,
+            "s2k2ngt: missing.s2k: cannot open the input file: No such file or directory\n");
+}
+
+TEST_F(CommandTest, WrongUsageIsStatusSixtyFour) {
+  EXPECT_EQ(Call({}).Status, 64);
+  EXPECT_THAT(Call({}).Err, HasSubstr("FILE is required"));
+  EXPECT_EQ(Call({"--no-such-option", "a.s2k"}).Status, 64);
+  EXPECT_EQ(Call({"--json"}).Status, 64);
+  EXPECT_EQ(Call({"--json"}).Out, "");
+}
+
+TEST_F(CommandTest, HelpAndVersionGoToStandardOutput) {
+  const CommandRun help = Call({"--help"});
+  EXPECT_EQ(help.Status, 0);
+  for (const char* option :
+       {"--json", "--quiet", "--no-progress", "--list-messages", "--version"}) {
+    EXPECT_THAT(help.Out, HasSubstr(option));
+  }
+  EXPECT_THAT(help.Out, HasSubstr("Exit status: 0"));
+  const CommandRun version = Call({"--version"});
+  EXPECT_EQ(version.Status, 0);
+  EXPECT_EQ(version.Out, "s2k2ngt 0.1.0\n");
+}
+
+TEST_F(CommandTest, ListMessagesPrintsAllKeysWithTheirTexts) {
+  const CommandRun run = Call({"--list-messages"});
+  EXPECT_EQ(run.Status, 0);
+  std::istringstream lines(run.Out);
+  int count = 0;
+  for (std::string line; std::getline(lines, line); ++count) {
+    EXPECT_THAT(line, StartsWith("IDS_S2KV8_"));
+    EXPECT_GT(line.size() - line.find('\t'), 40U) << line;
+  }
+  EXPECT_EQ(count, 59);
+}
+
+TEST_F(CommandTest, BarIsDrawnOnATerminalAndErasedAgain) {
+  Write("tower.s2k", kOneJoint);
+  const CommandRun run = RunCommand({.Words = {S2K2NGT_COMMAND, "--json", "tower.s2k"},
+                                     .Folder = m_Folder.Path(),
+                                     .OnTerminal = true});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_THAT(run.Err, HasSubstr("] Reading [s2k] file of SAP2000 V8\x1b[K"));
+  EXPECT_THAT(run.Err, HasSubstr("\r\x1b[Ks2k2ngt: tower.s2k: converted to tower.ngt"));
+  EXPECT_EQ(JsonLines(run.Out).size(), 1U);
+}
+
+TEST_F(CommandTest, NoBarIsDrawnElsewhereOrWhenNotWanted) {
+  Write("tower.s2k", kOneJoint);
+  EXPECT_THAT(Call({"tower.s2k"}).Err, Not(HasSubstr("\x1b")));
+  const CommandRun run = RunCommand({.Words = {S2K2NGT_COMMAND, "--no-progress", "tower.s2k"},
+                                     .Folder = m_Folder.Path(),
+                                     .OnTerminal = true});
+  EXPECT_THAT(run.Err, Not(HasSubstr("\x1b")));
+}
+
+TEST_F(CommandTest, InterruptStopsAtTheNextStepWithStatusOne) {
+  // The input is a pipe, so that the interrupt comes for certain while the file is being read.
+  const std::string pipe = m_Folder.FileName("tower.s2k");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  Write("second.s2k", kOneJoint);
+  const CommandRun run =
+      RunCommand({.Words = {S2K2NGT_COMMAND, "--json", "--quiet", "tower.s2k", "second.s2k"},
+                  .Folder = m_Folder.Path(),
+                  .WhileRunning = [&](pid_t process) {
+                    std::ofstream writer(pipe);  // waits until the command opens its input
+                    kill(process, SIGINT);
+                    writer << kOneJoint;
+                  }});
+  EXPECT_EQ(run.Status, 1);
+  const std::vector<json> objects = JsonLines(run.Out);
+  ASSERT_EQ(objects.size(), 2U);
+  for (const json& object : objects) {
+    EXPECT_EQ(object["result"], 1);
+    EXPECT_EQ(object["output"], nullptr);
+    EXPECT_EQ(object["error"], nullptr);
+  }
+  EXPECT_FALSE(Exists("tower.ngt"));
+  EXPECT_FALSE(Exists("second.ngt"));
+  EXPECT_EQ(run.Err, "s2k2ngt: tower.s2k: stopped\ns2k2ngt: second.s2k: stopped\n");
+}
+
+}  // namespace

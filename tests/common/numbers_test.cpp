@@ -1,0 +1,206 @@
+#include "common/numbers.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace s2k2ngt {
+namespace {
+
+std::string Formatted(double value) {
+  char text[kRealSize];
+  return {text, FormatReal(text, value)};
+}
+
+std::string PrintedByC(double value) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%g", value);
+  return text;
+}
+
+TEST(ParseReal, ReadsWhatAtofReads) {
+  // Among them what atof makes nothing or half of.
+  for (const char* text :
+       {"",
+        " ",
+        "0",
+        "-0",
+        "+5",
+        "++5",
+        "+-5",
+        "-+5",
+        "--5",
+        "1.5E-3",
+        "1e5x",
+        "1e",
+        "1e+",
+        "1.",
+        ".5",
+        ".",
+        "-.5e1",
+        "5,3",
+        "3.5 4",
+        " \t\n\v\f\r7",
+        "0x1F",
+        "0X1p4",
+        "0x",
+        "0x.8",
+        "0x.",
+        "0x1p",
+        "0x-1",
+        "-0x1.8p1",
+        "inf",
+        "-inf",
+        "INFINITY",
+        "infinite",
+        "in",
+        "1e308",
+        "1e309",
+        "-1e309",
+        "1e-320",
+        "1e-400",
+        "-1e-400",
+        "0e999",
+        "0.0e-999",
+        "1e99999999999999999999",
+        "1e-99999999999999999999",
+        "0x1p2000",
+        "0x1p-2000",
+        "0x0p99999",
+        "123456789012345678901234567890",
+        "00012",
+        "2.2250738585072014e-308",
+        "179769313486231580793728971405303415079934132710037826936173778980444968292764750946649"
+        "017977587207096330286416692887910946555547851940402630657488671505820681908902000708383"
+        "676273854845817711531764475730270069855571366959622842914819860834936475292719074168444"
+        "365510704342711559699508093042880000000000",
+        "0.00000000000000000000000000000000000000000000000000000000000000000000000000001",
+        "12e-3e4",
+        "1_000",
+        "D5",
+        "e5",
+        "-"}) {
+    const double expected = std::atof(text);
+    const double value = ParseReal(text);
+    EXPECT_EQ(value, expected) << text;
+    EXPECT_EQ(std::signbit(value), std::signbit(expected)) << text;
+  }
+}
+
+TEST(ParseReal, LongNumbersBeyondTheRangeGoToTheirSide) {
+  const std::string zeros(400, '0');
+  EXPECT_EQ(ParseReal("1" + zeros), std::numeric_limits<double>::infinity());
+  EXPECT_EQ(ParseReal("-1" + zeros + ".5"), -std::numeric_limits<double>::infinity());
+  EXPECT_EQ(ParseReal("0." + zeros + "1"), 0.0);
+  EXPECT_EQ(ParseReal("0." + zeros + "1e500"), 1e99);
+  EXPECT_EQ(ParseReal("1" + zeros + "e-500"), 1e-100);
+  EXPECT_EQ(ParseReal("0." + zeros + "1e900"), std::numeric_limits<double>::infinity());
+  EXPECT_EQ(ParseReal("1" + zeros + "e-900"), 0.0);
+}
+
+TEST(ParseReal, ReadsNotANumber) {
+  EXPECT_TRUE(std::isnan(ParseReal("nan")));
+  EXPECT_TRUE(std::isnan(ParseReal("-NAN")));
+  EXPECT_TRUE(std::isnan(ParseReal("nan(5)")));
+}
+
+TEST(ParseReal, AgreesWithAtofOnRandomNumbers) {
+  std::mt19937_64 random(1);
+  std::uniform_int_distribution<int> exponent(-330, 320);
+  std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
+  for (int count = 0; count < 20'000; ++count) {
+    char text[64];
+    std::snprintf(text, sizeof text, "%.*ge%d", count % 18, mantissa(random), exponent(random));
+    ASSERT_EQ(ParseReal(text), std::atof(text)) << text;
+  }
+}
+
+TEST(ParseInteger, ReadsWhatAtoiReadsAndKeepsTheNearestOfWhatDoesNotFit) {
+  EXPECT_EQ(ParseInteger("12"), 12);
+  EXPECT_EQ(ParseInteger(" -12x"), -12);
+  EXPECT_EQ(ParseInteger("+7"), 7);
+  EXPECT_EQ(ParseInteger("A1"), 0);
+  EXPECT_EQ(ParseInteger(""), 0);
+  EXPECT_EQ(ParseInteger("-"), 0);
+  EXPECT_EQ(ParseInteger("--1"), 0);
+  EXPECT_EQ(ParseInteger("3.9"), 3);
+  EXPECT_EQ(ParseInteger("2147483647"), 2147483647);
+  EXPECT_EQ(ParseInteger("2147483648"), 2147483647);
+  EXPECT_EQ(ParseInteger("-2147483648"), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(ParseInteger("-99999999999999999999"), std::numeric_limits<std::int32_t>::min());
+}
+
+TEST(TruncateToInteger, DropsTheFractionAndKeepsTheNearestOfWhatDoesNotFit) {
+  EXPECT_EQ(TruncateToInteger(2.9), 2);
+  EXPECT_EQ(TruncateToInteger(-2.9), -2);
+  EXPECT_EQ(TruncateToInteger(1e20), 2147483647);
+  EXPECT_EQ(TruncateToInteger(-1e20), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(TruncateToInteger(std::numeric_limits<double>::infinity()), 2147483647);
+  EXPECT_EQ(TruncateToInteger(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
+TEST(FormatReal, PrintsWhatPrintfPrints) {
+  for (const double value : {0.0,
+                             -0.0,
+                             1.0,
+                             -1.0,
+                             3.5,
+                             1.2e6,
+                             123456.0,
+                             999999.0,
+                             999999.5,
+                             1e6,
+                             1e-4,
+                             1e-5,
+                             0.00012345678,
+                             123456.5,
+                             1234567.0,
+                             100000.0,
+                             1e100,
+                             -1e-100,
+                             1e-320,
+                             1.0 / 3.0,
+                             0.1 + 0.2,
+                             9.99999e5,
+                             9.999995e-5,
+                             2.5e-7,
+                             std::numeric_limits<double>::infinity(),
+                             -std::numeric_limits<double>::infinity(),
+                             std::numeric_limits<double>::max(),
+                             std::numeric_limits<double>::denorm_min()}) {
+    EXPECT_EQ(Formatted(value), PrintedByC(value));
+  }
+}
+
+TEST(FormatReal, PrintsEveryNotANumberTheSame) {
+  EXPECT_EQ(Formatted(std::numeric_limits<double>::quiet_NaN()), "nan");
+  EXPECT_EQ(Formatted(-std::numeric_limits<double>::quiet_NaN()), "nan");
+}
+
+TEST(FormatReal, AgreesWithPrintfOnRandomBits) {
+  std::mt19937_64 random(2);
+  for (int count = 0; count < 50'000; ++count) {
+    const std::uint64_t bits = random();
+    double value = 0.0;
+    std::memcpy(&value, &bits, sizeof value);
+    if (!std::isnan(value)) {
+      ASSERT_EQ(Formatted(value), PrintedByC(value));
+    }
+  }
+}
+
+TEST(FormatInteger, PrintsTheLimits) {
+  char text[kIntegerSize];
+  EXPECT_EQ(std::string(text, FormatInteger(text, std::numeric_limits<std::int32_t>::min())),
+            "-2147483648");
+  EXPECT_EQ(std::string(text, FormatInteger(text, 0)), "0");
+}
+
+}  // namespace
+}  // namespace s2k2ngt
