@@ -5,6 +5,8 @@
 #include "frames/modifiers.h"
 
 #include <algorithm>
+#include <optional>
+#include <unordered_map>
 #include <utility>
 
 namespace s2k2ngt {
@@ -91,12 +93,13 @@ struct TaperedEnd {
   }
 };
 
-/// Fills the record from the first segment's start and the last segment's end; what lies between
-/// is lost. False when the section is dropped.
-bool ConvertTapered(Conversion& run, Text name, T_NGT_SECT_D& section) {
+/// The section from its first segment's start and its last segment's end; what lies between is
+/// lost. Nothing when the section is dropped.
+std::optional<T_NGT_SECT_D> ConvertTapered(Conversion& run, Text name) {
+  T_NGT_SECT_D section;
   const auto& segments = run.Source.Rows<T_FSNP_D>();
   if (segments.Empty()) {
-    return true;
+    return section;
   }
   TaperedEnd start;
   TaperedEnd end;
@@ -113,15 +116,18 @@ bool ConvertTapered(Conversion& run, Text name, T_NGT_SECT_D& section) {
   }
   if (start.Shape != end.Shape) {
     // No message, though an end that is missing leads here too when the start has a shape.
-    return false;
+    return std::nullopt;
   }
-  section.SHAPE = start.Shape;
   if (!start.Found) {
     run.Target.bSectionStartMissing = true;
-  } else if (!end.Found) {
-    run.Target.bSectionEndMissing = true;
+    return std::nullopt;
   }
-  return start.Found && end.Found;
+  if (!end.Found) {
+    run.Target.bSectionEndMissing = true;
+    return std::nullopt;
+  }
+  section.SHAPE = start.Shape;
+  return section;
 }
 
 /// True when a nonprismatic section of the file has several segments. Each such section looks at
@@ -138,14 +144,15 @@ bool HasScaleFactors(const T_FRSG_D& section) {
   return std::ranges::any_of(modifiers, [](double modifier) { return modifier != 1.0; });
 }
 
-/// False when the target has no such shape, and the section is dropped.
-bool ConvertPrismatic(Conversion& run, std::uint32_t key, const T_FRSG_D& source,
-                      T_NGT_SECT_D& section) {
+/// Nothing when the target has no such shape, and the section is dropped.
+std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, std::uint32_t key,
+                                             const T_FRSG_D& source) {
+  T_NGT_SECT_D section;
   section.TYPE = SectionType::Value;
   section.SHAPE = ShapeCode(source.Shape);
   if (section.SHAPE.empty()) {
     run.Warnings.bSectionNotTranslated = true;
-    return false;
+    return std::nullopt;
   }
   section.I = EndWith(PrismaticDimensions(section.SHAPE, source), source);
   if (HasScaleFactors(source)) {
@@ -161,7 +168,7 @@ bool ConvertPrismatic(Conversion& run, std::uint32_t key, const T_FRSG_D& source
                     .IZZ_SF = source.I2Mod,
                     .WGT_SF = source.WMod});
   }
-  return true;
+  return section;
 }
 
 Text OffsetOfCardinalPoint(Text cardinalPoint, Text otherwise) {
@@ -201,21 +208,24 @@ Text OffsetOfSection(CModel& model, Text sectionName, Text otherwise) {
 }  // namespace
 
 bool ConvertSections(Conversion& run) {
-  const auto& sources = run.Source.Rows<T_FRSG_D>();
   const bool hasMultipleSegments = HasMultipleSegments(run.Source);
-  for (const auto [key, source] : sources.Walk()) {
-    T_NGT_SECT_D section;
-    bool kept = false;
+  std::unordered_map<Text, std::optional<T_NGT_SECT_D>> taperedByName;
+  for (const auto [key, source] : run.Source.Rows<T_FRSG_D>().Walk()) {
+    std::optional<T_NGT_SECT_D> section;
     if (source.Shape == kNonprismatic) {
       run.Target.bSectionMultiSegment = hasMultipleSegments;
-      kept = ConvertTapered(run, source.SectionName, section);
+      const auto [known, isNew] = taperedByName.try_emplace(source.SectionName);
+      if (isNew) {
+        known->second = ConvertTapered(run, source.SectionName);
+      }
+      section = known->second;
     } else {
-      kept = ConvertPrismatic(run, key, source, section);
+      section = ConvertPrismatic(run, key, source);
     }
-    if (kept) {
-      section.SNAME = source.SectionName;
-      section.OFFSET = OffsetOfSection(run.Source, source.SectionName, section.OFFSET);
-      run.Target.Add(key, section);
+    if (section) {
+      section->SNAME = source.SectionName;
+      section->OFFSET = OffsetOfSection(run.Source, source.SectionName, section->OFFSET);
+      run.Target.Add(key, *section);
     }
   }
   return true;

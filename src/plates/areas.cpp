@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <unordered_map>
 
 namespace s2k2ngt {
 
@@ -60,16 +61,16 @@ void ClassifyShell(Text type, Classification& result, bool& propertyLost) {
 }
 
 /// Takes the type of one section of the area's section name.
-void ClassifyBy(const T_ASPR_D& section, const T_CNAR_D& area, CModel& model,
-                Classification& result, bool& propertyLost) {
+void ClassifyBy(const T_ASPR_D& section, bool liesInPlane, Classification& result,
+                bool& propertyLost) {
   if (section.AreaType == "Shell") {
     ClassifyShell(section.Type, result, propertyLost);
   } else if (section.AreaType == "Plane" && section.Type == "Plane-Stress") {
     result.TYPE = "PLSTRS";
   } else if (section.AreaType == "Plane" && section.Type == "Plane-Strain") {
-    result.TYPE = LiesInPlaneOfConstantY(model, area) ? "PLSTRN" : "PLSTRS";
+    result.TYPE = liesInPlane ? "PLSTRN" : "PLSTRS";
   } else if (section.AreaType == "Asolid") {
-    result.TYPE = LiesInPlaneOfConstantY(model, area) ? "AXISYM" : "PLSTRS";
+    result.TYPE = liesInPlane ? "AXISYM" : "PLSTRS";
   } else {
     propertyLost = true;
   }
@@ -87,12 +88,12 @@ std::optional<std::int32_t> KnownMaterial(CModel& model, Text name) {
 
 /// Goes through the sections of the name until one has a known material. Type and sub-type of those
 /// before it stay where a later one does not set them.
-Classification Classify(Conversion& run, Text sectionName, const T_CNAR_D& area) {
+Classification Classify(Conversion& run, Text sectionName, bool liesInPlane) {
   Classification result;
   const auto& sections = run.Source.Rows<T_ASPR_D>();
   for (const std::uint32_t position : sections.AllWith<&T_ASPR_D::Section>(sectionName)) {
     const auto [key, section] = sections.AtWalk(position);
-    ClassifyBy(section, area, run.Source, result, run.Target.bAreaPropertyLost);
+    ClassifyBy(section, liesInPlane, result, run.Target.bAreaPropertyLost);
     if (const auto iMAT = KnownMaterial(run.Source, section.Material)) {
       result.Success = true;
       result.iPRO = static_cast<std::int32_t>(key);
@@ -103,15 +104,41 @@ Classification Classify(Conversion& run, Text sectionName, const T_CNAR_D& area)
   return result;
 }
 
-T_NGT_PLAT_D PlateOf(Conversion& run, const T_CNAR_D& area) {
+/// What the section names of areas make of them, worked out once for each name.
+class AreaClassifier {
+ public:
+  explicit AreaClassifier(Conversion& run) : m_Run(run) {}
+
+  const Classification& Of(Text sectionName, const T_CNAR_D& area) {
+    const auto [known, isNew] = m_Outcomes.try_emplace(sectionName);
+    Outcomes& outcomes = known->second;
+    if (isNew) {
+      outcomes = {Classify(m_Run, sectionName, true), Classify(m_Run, sectionName, false)};
+    }
+    const bool planeMatters = outcomes.InPlane.TYPE != outcomes.OutOfPlane.TYPE;
+    return planeMatters && !LiesInPlaneOfConstantY(m_Run.Source, area) ? outcomes.OutOfPlane
+                                                                       : outcomes.InPlane;
+  }
+
+ private:
+  struct Outcomes {
+    Classification InPlane;
+    Classification OutOfPlane;
+  };
+  Conversion& m_Run;
+  std::unordered_map<Text, Outcomes> m_Outcomes;
+};
+
+T_NGT_PLAT_D PlateOf(CModel& model, const T_CNAR_D& area, AreaClassifier& classifier) {
   T_NGT_PLAT_D plate;
   plate.Label = area.Area;
   plate.iN = {area.Joint1, area.Joint2, area.Joint3, area.Joint4};
-  if (const auto axes = run.Source.Rows<T_ALTP_D>().FirstWith<&T_ALTP_D::Area>(area.Area)) {
+  if (const auto axes = model.Rows<T_ALTP_D>().FirstWith<&T_ALTP_D::Area>(area.Area)) {
     plate.Angle = axes->Value.Angle;
   }
-  const auto assignment = run.Source.Rows<T_ASCA_D>().FirstWith<&T_ASCA_D::Area>(area.Area);
-  const Classification found = Classify(run, assignment ? assignment->Value.Section : Text(), area);
+  const auto assignment = model.Rows<T_ASCA_D>().FirstWith<&T_ASCA_D::Area>(area.Area);
+  const Text sectionName = assignment ? assignment->Value.Section : Text();
+  const Classification& found = classifier.Of(sectionName, area);
   plate.TYPE = found.TYPE;
   if (found.Success) {
     plate.iPRO = found.iPRO;
@@ -124,8 +151,9 @@ T_NGT_PLAT_D PlateOf(Conversion& run, const T_CNAR_D& area) {
 }  // namespace
 
 bool ConvertAreas(Conversion& run) {
+  AreaClassifier classifier(run);
   for (const auto [key, area] : run.Source.Rows<T_CNAR_D>().Walk()) {
-    run.Target.Add(key, PlateOf(run, area));
+    run.Target.Add(key, PlateOf(run.Source, area, classifier));
     run.Elements.NoteLabel(area.Area);
   }
   // Set whether or not an area has local axes: their table is refused, so that the engineer has to

@@ -9,6 +9,10 @@
 #include <filesystem>
 #include <locale>
 
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -278,6 +282,9 @@ class DecimalCommaHost {
  public:
   DecimalCommaHost() {
     setenv("LOCPATH", S2K2NGT_TEST_LOCALES, 1);
+#if defined(__SANITIZE_ADDRESS__)
+    const __lsan::ScopedDisabler theSystemKeepsItsListOfLocaleFolders;
+#endif
     m_Before = std::locale::global(std::locale("de_DE.UTF-8"));
   }
   ~DecimalCommaHost() { std::locale::global(m_Before); }

@@ -1,12 +1,29 @@
 #include "platform/dynamic_library.h"
 
+#include <string>
+
 #include <dlfcn.h>
 
 namespace s2k2ngt {
+namespace {
+
+/// The folder of the library or program that this code is in, with its slash; empty when unknown.
+std::string OwnFolder() {
+  Dl_info info = {};
+  if (dladdr(reinterpret_cast<void*>(&LoadDynamicLibrary), &info) == 0) {
+    return {};
+  }
+  const std::string file = info.dli_fname;
+  return file.substr(0, file.rfind('/') + 1);
+}
+
+}  // namespace
 
 LibraryHandle LoadDynamicLibrary(const char* fileName) {
-  // Our libraries and programs are linked to look in their own folder first.
-  return dlopen(fileName, RTLD_NOW | RTLD_LOCAL);
+  // The system's own order does not begin beside the library that asks.
+  const std::string beside = OwnFolder() + fileName;
+  void* const library = dlopen(beside.c_str(), RTLD_NOW | RTLD_LOCAL);
+  return library != nullptr ? library : dlopen(fileName, RTLD_NOW | RTLD_LOCAL);
 }
 
 void* FindDynamicSymbol(LibraryHandle library, const char* symbol) {
