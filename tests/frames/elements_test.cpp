@@ -210,6 +210,20 @@ TABLE:  "FRAME SECTION ASSIGNMENTS"
                                                  "\t6,  BEAM,     1,     3,     6,     7,     0"));
 }
 
+TEST(FrameProperties, FrameWithoutAnAssignmentRowTakesTheSectionOfEmptyName) {
+  const ConversionRun run = Convert(std::string(kThreeMaterials) + kThreeFrames + R"(
+TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
+   SectionName=BEAM   Material=STEEL   Shape=Rectangular
+   Material=CONC   Shape=Rectangular
+
+TABLE:  "FRAME SECTION ASSIGNMENTS"
+   Frame=1   AnalSect=BEAM
+)");
+  EXPECT_THAT(run.Lines("*ELEMENT"), ElementsAre("\t1,  BEAM,     1,     1,     1,     2,     0",
+                                                 "\t2,  BEAM,     2,     2,     2,     3,     0",
+                                                 "\t3,  BEAM,     2,     2,     4,     3,     0"));
+}
+
 TEST(FrameProperties, NamesAreComparedExactly) {
   const ConversionRun run = ConvertFrames(R"(
 TABLE:  "FRAME SECTION ASSIGNMENTS"
@@ -300,6 +314,16 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
    SectionName=TAPER   NumSegments=1   SegmentNum=1   StartSect=BRACE   EndSect=COLUMN
 )");
   EXPECT_THAT(run.Lines("*ELEMENT"), Contains("\t3,  BEAM,     1,     4,     4,     3,     0"));
+}
+
+TEST(FrameProperties, OfSeveralSegmentsTheOneThatTheWalkMeetsFirstCounts) {
+  // Segment rows 1 and 2 are walked in the order 2, 1.
+  const ConversionRun run = ConvertTapered(R"(
+TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
+   SectionName=TAPER   NumSegments=2   SegmentNum=1   StartSect=BRACE   EndSect=COLUMN
+   SectionName=TAPER   NumSegments=2   SegmentNum=2   StartSect=COLUMN   EndSect=BEAM
+)");
+  EXPECT_THAT(run.Lines("*ELEMENT"), Contains("\t3,  BEAM,     2,     4,     4,     3,     0"));
 }
 
 TEST(FrameProperties, StartSectionThatAnEarlierRowOfTheWalkSpeaksOfEndsTheChain) {

@@ -34,6 +34,13 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC")") +
                  segments);
 }
 
+/// The two lines of section 1.
+std::vector<std::string> FirstTwoLines(const ConversionRun& run) {
+  std::vector<std::string> lines = run.Lines("*SECTION");
+  lines.resize(2);
+  return lines;
+}
+
 // The first line of the haunch when it is dropped.
 constexpr const char* kDropped =
     "\t1, DBUSER,      ,    CC,    SB, 2,     0,     0,     0,     0,     0,     0";
@@ -73,13 +80,13 @@ TEST(TaperedSections, VariationWordsHaveNumbers) {
         "\n   SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=SHALLOW   EndSect=DEEP"
         "   EI33Var=" +
         std::string(word) + "   EI22Var=Linear\n");
-    EXPECT_EQ(about3.Lines("*SECTION").front(),
+    EXPECT_EQ(FirstTwoLines(about3).front(),
               "\t1, TAPERED, HAUNCH,    CC,    SB,     " + std::string(number) + ",     1,  USER");
     const ConversionRun about2 = ConvertHaunch(
         "\n   SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=SHALLOW   EndSect=DEEP"
         "   EI33Var=Linear   EI22Var=" +
         std::string(word) + "\n");
-    EXPECT_EQ(about2.Lines("*SECTION").front(),
+    EXPECT_EQ(FirstTwoLines(about2).front(),
               "\t1, TAPERED, HAUNCH,    CC,    SB,     1,     " + std::string(number) + ",  USER");
   }
 }
@@ -89,8 +96,7 @@ TEST(TaperedSections, VariationIsThatOfTheFirstSegment) {
    SectionName=HAUNCH   NumSegments=2   SegmentNum=1   StartSect=SHALLOW   EndSect=DEEP   EI33Var=Cubic   EI22Var=Prabolic
    SectionName=HAUNCH   NumSegments=2   SegmentNum=2   StartSect=DEEP   EndSect=DEEP   EI33Var=Linear   EI22Var=Linear
 )");
-  EXPECT_EQ(run.Lines("*SECTION").front(),
-            "\t1, TAPERED, HAUNCH,    CC,    SB,     3,     2,  USER");
+  EXPECT_EQ(FirstTwoLines(run).front(), "\t1, TAPERED, HAUNCH,    CC,    SB,     3,     2,  USER");
 }
 
 TEST(TaperedSections, UnknownVariationKeepsThatOfTheRowWalkedBefore) {
@@ -99,10 +105,10 @@ TEST(TaperedSections, UnknownVariationKeepsThatOfTheRowWalkedBefore) {
    SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=SHALLOW   EndSect=DEEP   EI33Var=Quartic   EI22Var=Linear
    SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=DEEP   EndSect=SHALLOW   EI33Var=Cubic   EI22Var=Prabolic
 )");
-  const auto lines = run.Lines("*SECTION");
-  EXPECT_EQ(lines[0], "\t1, TAPERED, HAUNCH,    CC,    SB,     3,     1,  USER");
-  EXPECT_EQ(lines[1],
-            "\t\t  0.3,  0.2,    0,    0,    0,    0,  0.6, 0.25,    0,    0,    0,    0");
+  EXPECT_THAT(
+      FirstTwoLines(run),
+      ElementsAre("\t1, TAPERED, HAUNCH,    CC,    SB,     3,     1,  USER",
+                  "\t\t  0.3,  0.2,    0,    0,    0,    0,  0.6, 0.25,    0,    0,    0,    0"));
 }
 
 TEST(TaperedSections, EachShapeHasItsDimensions) {
@@ -142,9 +148,7 @@ TEST(TaperedSections, EachShapeHasItsDimensions) {
         "\n"
         "TABLE:  \"FRAME SECTION PROPERTIES 5 - NONPRISMATIC\"\n"
         "   SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=A   EndSect=B\n");
-    const auto lines = run.Lines("*SECTION");
-    EXPECT_EQ(lines[0], head);
-    EXPECT_EQ(lines[1], dimensions);
+    EXPECT_THAT(FirstTwoLines(run), ElementsAre(head, dimensions));
     EXPECT_THAT(run.Messages, IsEmpty());
   }
 }
@@ -159,10 +163,10 @@ TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
 TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
    SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=A   EndSect=B
 )");
-  const auto lines = run.Lines("*SECTION");
-  EXPECT_EQ(lines[0], "\t1, TAPERED, HAUNCH,    CC,    SB,     1,     1,  USER");
-  EXPECT_EQ(lines[1],
-            "\t\t  0.3,    0,    0,    0,    0,    0,  0.6,    0,    0,    0,    0,    0");
+  EXPECT_THAT(
+      FirstTwoLines(run),
+      ElementsAre("\t1, TAPERED, HAUNCH,    CC,    SB,     1,     1,  USER",
+                  "\t\t  0.3,    0,    0,    0,    0,    0,  0.6,    0,    0,    0,    0,    0"));
 }
 
 TEST(TaperedSections, OfSeveralSectionsOfOneNameTheLastOfTheWalkIsTheEnd) {
@@ -179,7 +183,7 @@ TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
 TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
    SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=T   EndSect=DEEP
 )");
-  EXPECT_EQ(run.Lines("*SECTION")[1],
+  EXPECT_EQ(FirstTwoLines(run).back(),
             "\t\t  0.4,    0,    0,    0,    0,    0,  0.9,    0,    0,    0,    0,    0");
 }
 
@@ -197,10 +201,10 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
    SectionName=VAR   NumSegments=2   SegmentNum=1   StartSect=A   EndSect=B
    SectionName=VAR   NumSegments=2   SegmentNum=2   StartSect=B   EndSect=C
 )");
-  const auto lines = run.Lines("*SECTION");
-  EXPECT_EQ(lines[0], "\t1, TAPERED,   VAR,    CC,    SB,     1,     1,  USER");
-  EXPECT_EQ(lines[1],
-            "\t\t  0.3,    0,    0,    0,    0,    0,  0.6,    0,    0,    0,    0,    0");
+  EXPECT_THAT(
+      FirstTwoLines(run),
+      ElementsAre("\t1, TAPERED,   VAR,    CC,    SB,     1,     1,  USER",
+                  "\t\t  0.3,    0,    0,    0,    0,    0,  0.6,    0,    0,    0,    0,    0"));
   EXPECT_THAT(run.Messages, ElementsAre("IDS_S2KV8_SECT_TAPP_Not_Convert"));
 }
 
@@ -210,7 +214,7 @@ TEST(TaperedSections, SegmentsMayStandInAnyOrder) {
    SectionName=HAUNCH   NumSegments=3   SegmentNum=2   StartSect=ROUND   EndSect=ROUND
    SectionName=HAUNCH   NumSegments=3   SegmentNum=1   StartSect=SHALLOW   EndSect=ROUND
 )");
-  EXPECT_EQ(run.Lines("*SECTION")[1],
+  EXPECT_EQ(FirstTwoLines(run).back(),
             "\t\t  0.3,  0.2,    0,    0,    0,    0,  0.6, 0.25,    0,    0,    0,    0");
   EXPECT_THAT(run.Messages,
               ElementsAre("IDS_S2KV8_SECT_Not_Trans", "IDS_S2KV8_SECT_TAPP_Not_Convert"));
@@ -221,8 +225,7 @@ TEST(TaperedSections, SeveralSegmentsOfAnotherSectionShowTheMessage) {
    SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=SHALLOW   EndSect=DEEP
    SectionName=UNUSED   NumSegments=2   SegmentNum=2   StartSect=DEEP   EndSect=ROUND
 )");
-  EXPECT_EQ(run.Lines("*SECTION").front(),
-            "\t1, TAPERED, HAUNCH,    CC,    SB,     1,     1,  USER");
+  EXPECT_EQ(FirstTwoLines(run).front(), "\t1, TAPERED, HAUNCH,    CC,    SB,     1,     1,  USER");
   EXPECT_THAT(run.Messages,
               ElementsAre("IDS_S2KV8_SECT_Not_Trans", "IDS_S2KV8_SECT_TAPP_Not_Convert"));
 }
@@ -252,10 +255,10 @@ TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
 TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
    SectionName=VAR   NumSegments=1.9   SegmentNum=1.2   StartSect=A   EndSect=A
 )");
-  const auto lines = run.Lines("*SECTION");
-  EXPECT_EQ(lines[0], "\t1, TAPERED,   VAR,    CC,    SR,     1,     1,  USER");
-  EXPECT_EQ(lines[1],
-            "\t\t  0.3,    0,    0,    0,    0,    0,  0.3,    0,    0,    0,    0,    0");
+  EXPECT_THAT(
+      FirstTwoLines(run),
+      ElementsAre("\t1, TAPERED,   VAR,    CC,    SR,     1,     1,  USER",
+                  "\t\t  0.3,    0,    0,    0,    0,    0,  0.3,    0,    0,    0,    0,    0"));
   EXPECT_THAT(run.Messages, IsEmpty());
 }
 
@@ -263,14 +266,14 @@ TEST(TaperedSections, SegmentWithoutNumbersIsAnEndAndNotAStart) {
   const ConversionRun alone = ConvertHaunch(R"(
    SectionName=HAUNCH   StartSect=SHALLOW   EndSect=DEEP
 )");
-  EXPECT_EQ(alone.Lines("*SECTION").front(), kDropped);
+  EXPECT_EQ(FirstTwoLines(alone).front(), kDropped);
   EXPECT_THAT(alone.Messages, ElementsAre("IDS_S2KV8_SECT_Not_Trans"));
 
   const ConversionRun withStart = ConvertHaunch(R"(
    SectionName=HAUNCH   StartSect=ROUND   EndSect=DEEP
    SectionName=HAUNCH   NumSegments=2   SegmentNum=1   StartSect=SHALLOW   EndSect=ROUND
 )");
-  EXPECT_EQ(withStart.Lines("*SECTION")[1],
+  EXPECT_EQ(FirstTwoLines(withStart).back(),
             "\t\t  0.3,  0.2,    0,    0,    0,    0,  0.6, 0.25,    0,    0,    0,    0");
 }
 
@@ -325,7 +328,7 @@ TEST(TaperedSections, SectionThatLacksAnEndIsDropped) {
   for (const auto& [what, segment, message] : cases) {
     SCOPED_TRACE(what);
     const ConversionRun run = ConvertHaunch("\n   " + std::string(segment) + "\n");
-    EXPECT_EQ(run.Lines("*SECTION").front(), kDropped);
+    EXPECT_EQ(FirstTwoLines(run).front(), kDropped);
     std::vector<std::string> messages = {"IDS_S2KV8_SECT_Not_Trans"};
     if (message != nullptr) {
       messages.emplace_back(message);
@@ -338,10 +341,10 @@ TEST(TaperedSections, TwoEndsOfShapesWithoutACodeAreKeptWithAnEmptyShape) {
   const ConversionRun run = ConvertHaunch(R"(
    SectionName=HAUNCH   NumSegments=1   SegmentNum=1   StartSect=CELLS1   EndSect=CELLS2
 )");
-  const auto lines = run.Lines("*SECTION");
-  EXPECT_EQ(lines[0], "\t1, TAPERED, HAUNCH,    CC,      ,     1,     1,  USER");
-  EXPECT_EQ(lines[1],
-            "\t\t  0.7,    0,    0,    0,    0,    0,  0.8,    0,    0,    0,    0,    0");
+  EXPECT_THAT(
+      FirstTwoLines(run),
+      ElementsAre("\t1, TAPERED, HAUNCH,    CC,      ,     1,     1,  USER",
+                  "\t\t  0.7,    0,    0,    0,    0,    0,  0.8,    0,    0,    0,    0,    0"));
   EXPECT_THAT(run.Messages, ElementsAre("IDS_S2KV8_SECT_Not_Trans"));
 }
 

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
   char output[1024] = "";
   int messages = 0;
   s2k2ngt_host host = {0};
-  int result;
+  int result = 0;
   if (argc != 2) {
     return 64;
   }

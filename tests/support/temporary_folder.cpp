@@ -1,10 +1,9 @@
 #include "support/temporary_folder.h"
 
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
-
-#include <stdlib.h>
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = (std::filesystem::temp_directory_path() / "s2k2ngt-XXXXXX").string();
