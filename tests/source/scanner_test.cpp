@@ -60,18 +60,10 @@ TEST(LinesBetweenBlocks, EndAloneIsTooShortToEndTheScan) {
               ElementsAre("\t1,     0,     0,     0"));
 }
 
-TEST(LinesBetweenBlocks, TitleInAnyCaseStartsABlock) {
-  for (const char* title : {"TABLE:  \"JOINT COORDINATES\"\n", "table:  \"joint coordinates\"\n",
-                            "Table:  \"Joint Coordinates\"\n"}) {
-    EXPECT_THAT(Joints(kFileLine + title + "   Joint=1\n\n" + kEnd),
-                ElementsAre("\t1,     0,     0,     0"))
-        << title;
-  }
-}
-
-TEST(LinesBetweenBlocks, TitleIsKnownByTheWordsAtItsTenthCharacter) {
+TEST(LinesBetweenBlocks, TitleIsKnownByItsWordAtTheTenthCharacterInAnyCase) {
   for (const char* title : {"TABLE:  \"JOINT COORDINATES\n", "TABLE:  \"JOINT COORDINATES\"  ; 1\n",
                             "TABLE   'JOINT COORDINATES'\n", "TABLES: \"JOINT COORDINATES\"\n",
+                            "table:  \"joint coordinates\"\n", "Table:  \"Joint Coordinates\"\n",
                             "TABLE:  \"JOINT: SPECIAL COORDINATES\"\r\n"}) {
     EXPECT_THAT(Joints(kFileLine + title + "   Joint=1\n\n" + kEnd),
                 ElementsAre("\t1,     0,     0,     0"))
