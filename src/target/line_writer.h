@@ -9,7 +9,6 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -109,7 +108,7 @@ class LineWriter {
       MakeRoomFor(text);
       return;
     }
-    std::memcpy(m_Buffer.data() + m_Used, text.data(), text.size());
+    std::copy(text.begin(), text.end(), m_Buffer.data() + m_Used);
     m_Used += text.size();
   }
   void AppendPadded(std::string_view text, std::size_t width) {

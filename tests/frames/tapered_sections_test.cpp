@@ -1,6 +1,6 @@
 #include "frames/sections.h"
 #include "support/conversion_run.h"
-#include "support/temporary_folder.h"
+#include "support/writer_run.h"
 
 #include <string>
 #include <vector>
@@ -185,6 +185,34 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
 )");
   EXPECT_EQ(FirstTwoLines(run).back(),
             "\t\t  0.4,    0,    0,    0,    0,    0,  0.9,    0,    0,    0,    0,    0");
+}
+
+TEST(TaperedSections, EachHasTheSegmentsOfItsName) {
+  const ConversionRun run = Convert(R"(
+TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
+   SectionName=VAR1   Shape=Nonprismatic
+   SectionName=VAR2   Shape=Nonprismatic
+   SectionName=VAR1   Shape=Nonprismatic
+   SectionName=A   Shape=Circle   t3=0.3
+   SectionName=B   Shape=Circle   t3=0.5
+
+TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
+   SectionName=VAR2   NumSegments=1   SegmentNum=1   StartSect=B   EndSect=A   EI33Var=Cubic
+   SectionName=VAR1   NumSegments=1   SegmentNum=1   StartSect=A   EndSect=B   EI22Var=Cubic
+)");
+  EXPECT_THAT(
+      run.Lines("*SECTION"),
+      ElementsAre(
+          "\t1, TAPERED,  VAR1,    CC,    SR,     1,     3,  USER",
+          "\t\t  0.3,    0,    0,    0,    0,    0,  0.5,    0,    0,    0,    0,    0",
+          "\t2, TAPERED,  VAR2,    CC,    SR,     3,     1,  USER",
+          "\t\t  0.5,    0,    0,    0,    0,    0,  0.3,    0,    0,    0,    0,    0",
+          "\t3, TAPERED,  VAR1,    CC,    SR,     1,     3,  USER",
+          "\t\t  0.3,    0,    0,    0,    0,    0,  0.5,    0,    0,    0,    0,    0",
+          "\t4, VALUE,     A,    CC,    SR, BUILT,   0.3,     0,     0,     0,     0,     0",
+          kNoStiffness, kNothingFurther,
+          "\t5, VALUE,     B,    CC,    SR, BUILT,   0.5,     0,     0,     0,     0,     0",
+          kNoStiffness, kNothingFurther));
 }
 
 // ---- Several segments ----
@@ -407,52 +435,33 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
 
 // ---- Form that no conversion produces ----
 
-class NoMessages : public s2k2ngt::Messages {
- public:
-  void Show(s2k2ngt::MessageKey /*key*/) override { ADD_FAILURE(); }
-  void ShowWith(s2k2ngt::MessageKey /*key*/, s2k2ngt::Text /*argument*/) override { ADD_FAILURE(); }
-};
-
 TEST(TaperedSections, FormOfValuesWritesThreeLinesForEachEnd) {
-  s2k2ngt::CModel source;
-  s2k2ngt::CNgtModel target;
-  s2k2ngt::ElementNumbers elements;
-  s2k2ngt::DeferredWarnings warnings;
-  NoMessages shown;
-  s2k2ngt::Conversion run{source, target, elements, warnings, shown};
-  target.Add(1, s2k2ngt::T_NGT_SECT_D{
-                    .TYPE = s2k2ngt::SectionType::Tapered,
-                    .SNAME = "HAUNCH",
-                    .OFFSET = "CT",
-                    .SHAPE = "H",
-                    .I = {.D = {0.6, 0.3, 0.01, 0.02, 0.25, 0.015},
-                          .AREA = 0.0175,
-                          .ASy = 0.006,
-                          .ASz = 0.009,
-                          .Ixx = 0.000002,
-                          .Iyy = 0.0011,
-                          .Izz = 0.00009,
-                          .Further = {0.15, 0.14, 0.3, 0.31, 0.05, 0.02, 2.4, 0, 0.125, 0.25}},
-                    .J = {.D = {1.2, 0.4, 0.02, 0.03, 0.35, 0.025},
-                          .AREA = 0.0425,
-                          .ASy = 0.024,
-                          .ASz = 0.017,
-                          .Ixx = 0.00001,
-                          .Iyy = 0.01,
-                          .Izz = 0.0003,
-                          .Further = {0.2, 0.19, 0.6, 0.61, 0.1, 0.04, 4, 0, 0.175, 0.5}},
-                    .iyVAR = 2,
-                    .izVAR = 3,
-                    .STYPE = "VALUE"});
-  const TemporaryFolder folder;
-  const std::string path = folder.FileName("model.ngt");
-  s2k2ngt::OutputFile file(path);
-  s2k2ngt::LineWriter out(file);
-  ASSERT_TRUE(s2k2ngt::WriteSections(run, out));
-  out.Flush();
-  file.Close();
-
-  const std::string written = ReadFile(path);
+  WriterRun run;
+  run.Target.Add(1, s2k2ngt::T_NGT_SECT_D{
+                        .TYPE = s2k2ngt::SectionType::Tapered,
+                        .SNAME = "HAUNCH",
+                        .OFFSET = "CT",
+                        .SHAPE = "H",
+                        .I = {.D = {0.6, 0.3, 0.01, 0.02, 0.25, 0.015},
+                              .AREA = 0.0175,
+                              .ASy = 0.006,
+                              .ASz = 0.009,
+                              .Ixx = 0.000002,
+                              .Iyy = 0.0011,
+                              .Izz = 0.00009,
+                              .Further = {0.15, 0.14, 0.3, 0.31, 0.05, 0.02, 2.4, 0, 0.125, 0.25}},
+                        .J = {.D = {1.2, 0.4, 0.02, 0.03, 0.35, 0.025},
+                              .AREA = 0.0425,
+                              .ASy = 0.024,
+                              .ASz = 0.017,
+                              .Ixx = 0.00001,
+                              .Iyy = 0.01,
+                              .Izz = 0.0003,
+                              .Further = {0.2, 0.19, 0.6, 0.61, 0.1, 0.04, 4, 0, 0.175, 0.5}},
+                        .iyVAR = 2,
+                        .izVAR = 3,
+                        .STYPE = "VALUE"});
+  const std::string written = run.Write(s2k2ngt::WriteSections);
   EXPECT_THAT(written, StartsWith("*SECTION    ; Section\n\n; iSEC"));
   EXPECT_EQ(written.substr(written.find('\t')),
             "\t1, TAPERED, HAUNCH,    CT,     H,     2,     3, VALUE\n"
@@ -463,6 +472,7 @@ TEST(TaperedSections, FormOfValuesWritesThreeLinesForEachEnd) {
             "\t\t0.0425, 0.024, 0.017, 1e-05,  0.01, 0.0003\n"
             "\t\t0.2,  0.19,   0.6,  0.61,   0.1,  0.04,     4,     0, 0.175,   0.5\n"
             "\n");
+  EXPECT_THAT(run.Messages, IsEmpty());
 }
 
 }  // namespace

@@ -233,6 +233,47 @@ TEST(PlaneOfConstantY, UnknownJointLiesAtZero) {
                           "\t2, PLSTRS,     1,     3,     1,     2,     4,     3\t"));
 }
 
+TEST(PlaneOfConstantY, MissingFourthJointLiesAtZeroEvenIfAJointHasNoLabel) {
+  const ConversionRun run = ConvertPlanes(
+      "   Joint=1   XorR=0   Y=2   Z=0\n"
+      "   Joint=2   XorR=4   Y=2   Z=0\n"
+      "   Joint=3   XorR=0   Y=2   Z=3\n"
+      "   XorR=4   Y=2   Z=3\n",
+      "Joint1=1   Joint2=2   Joint3=3");
+  EXPECT_THAT(run.Lines("*ELEMENT"),
+              ElementsAre("\t1, PLSTRS,     1,     2,     1,     2,     0,     3\t",
+                          "\t2, PLSTRS,     1,     3,     1,     2,     0,     3\t"));
+}
+
+TEST(PlaneOfConstantY, AreasOfOneSectionAreTestedEachByItsOwnCorners) {
+  const ConversionRun run = Convert(R"(
+TABLE:  "JOINT COORDINATES"
+   Joint=1   XorR=0   Y=2   Z=0
+   Joint=2   XorR=4   Y=2   Z=0
+   Joint=3   XorR=0   Y=2   Z=3
+   Joint=4   XorR=4   Y=2   Z=3
+   Joint=5   XorR=8   Y=3   Z=0
+   Joint=6   XorR=8   Y=3   Z=3
+
+TABLE:  "AREA SECTION PROPERTIES"
+   Section=DAM   AreaType=Plane   Type=Plane-Strain
+
+TABLE:  "CONNECTIVITY - AREA"
+   Area=1   Joint1=1   Joint2=2   Joint3=3   Joint4=4
+   Area=2   Joint1=2   Joint2=5   Joint3=4   Joint4=6
+   Area=3   Joint1=2   Joint2=1   Joint3=4   Joint4=3
+
+TABLE:  "AREA SECTION ASSIGNMENTS"
+   Area=1   Section=DAM
+   Area=2   Section=DAM
+   Area=3   Section=DAM
+)");
+  EXPECT_THAT(run.Lines("*ELEMENT"),
+              ElementsAre("\t1, PLSTRN,     1, 0,     1,     2,     4,     3\t\t",
+                          "\t2, PLSTRS,     1,     1,     2,     5,     6,     4\t",
+                          "\t3, PLSTRN,     1, 0,     2,     1,     3,     4\t\t"));
+}
+
 TEST(PlaneOfConstantY, GlobalCoordinatesCountWhereARowStatesOne) {
   const ConversionRun apart = ConvertPlanes(
       "   Joint=1   XorR=0   Y=2   Z=0   SpecialJt=No   GlobalX=0   GlobalY=2   GlobalZ=0\n"

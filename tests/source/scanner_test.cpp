@@ -322,15 +322,20 @@ TEST(ContinuedRow, RowWithoutItsEndIsLostWithTheBlock) {
 }
 
 TEST(ContinuedRow, RowWithoutItsEndIsNotCarriedIntoTheNextBlock) {
-  EXPECT_THAT(Joints(kToRows + "   Joint=1 _\n\n" + kJointTitle + "   XorR=2   Y=3\n\n" + kEnd),
-              ElementsAre("\t0,     2,     3,     0"));
+  for (const char* row : {"   XorR=2   Y=3\n\n", "   XorR=2   _\n   Y=3\n\n"}) {
+    EXPECT_THAT(Joints(kToRows + "   Joint=1   _\n\n" + kJointTitle + row + kEnd),
+                ElementsAre("\t0,     2,     3,     0"));
+  }
 }
 
 TEST(ContinuedRow, RefusalTellsTheLineOnWhichTheRowBegins) {
-  const ConversionRun run =
-      ConvertBytes(kToRows + "   Joint=1\n   Joint=2   _\n   CoordType=Polar\n\n");
+  const ConversionRun run = ConvertBytes(kToRows + "   Joint=1   _\n\n" + kJointTitle +
+                                         "   Joint=1\n   Joint=2   _\n   CoordType=Polar\n\n");
   EXPECT_EQ(run.Result, -1);
-  EXPECT_EQ(run.Failure.Line, 4U);
+  EXPECT_EQ(run.Failure.Line, 7U);
+  EXPECT_EQ(ConvertBytes(kToRows + "   Joint=1   _\n\n" + kJointTitle + "   CoordType=Polar\n\n")
+                .Failure.Line,
+            6U);
 }
 
 TEST(SameTableTwice, RowsOfTheSecondReplaceThoseOfTheSamePositions) {

@@ -266,8 +266,8 @@ TEST(EvalExpr, SignsThatAreNoOperators) {
   for (const Case& number : {Case{"-3", -3},
                              {"+3", 3},
                              {"*3", 0},      // at the head
-                             {"5-", 5},      // at the tail
-                             {"5-  ", 5},    // at the tail, trailing white space removed
+                             {"5*", 5},      // at the tail
+                             {"5/  ", 5},    // at the tail, trailing white space removed
                              {"2E+1", 20},   // of an exponent
                              {"2e-1", 0.2},  // of an exponent in lower case
                              {"1 -2", 1},    // behind a blank, so that the number ends at it
