@@ -1,6 +1,5 @@
 #include "command.h"
 
-#include "interrupt.h"
 #include "platform/terminal/terminal_platform.h"
 
 #include <s2k2ngt/converter.h>
@@ -9,12 +8,17 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <map>
 #include <optional>
+#include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
 using s2k2ngt::CConverter;
+using s2k2ngt::WasInterrupted;
 
 namespace {
 
@@ -28,57 +32,67 @@ struct Outcome {
   int Result = s2k2ngt::kFailed;
   std::optional<std::string> Output;  // when it was written whole
   std::vector<Message> Messages;
-  std::optional<std::string> Error;  // of a failure
+  std::optional<std::string> Error;       // of a failure
+  std::optional<std::string> Unfinished;  // output that a stop has left on disk
 };
 
-/// The terminal, which also keeps what it shows.
+/// The terminal, which also keeps what it shows for those who ask for JSON.
 class CommandPlatform : public s2k2ngt::TerminalPlatform {
  public:
   CommandPlatform(const CommandOptions& options, std::string file, std::vector<Message>& shown)
       : TerminalPlatform(
             {.Messages = !options.Quiet, .Progress = !options.Quiet && !options.NoProgress}),
+        m_KeepsMessages(options.Json),
         m_File(std::move(file)),
         m_Shown(shown) {}
 
   void ShowMessage(const std::string& key, const std::string& text) override {
-    m_Shown.push_back({key, text});
+    if (m_KeepsMessages) {
+      m_Shown.push_back({key, text});
+    }
     TerminalPlatform::ShowMessage(key, m_File + ": " + text);
   }
-  bool AskStop() override { return WasInterrupted(); }
 
  private:
+  bool m_KeepsMessages;
   std::string m_File;
   std::vector<Message>& m_Shown;
 };
 
 bool WouldReplaceInput(const std::string& input, const std::string& output) {
   std::error_code noSuchFile;
-  return input == output || std::filesystem::equivalent(input, output, noSuchFile);
+  return std::filesystem::equivalent(input, output, noSuchFile);
 }
 
-Outcome Convert(const std::string& file, const CommandOptions& options) {
+/// Which input of this call each output was written for.
+using WrittenOutputs = std::map<std::string, std::string>;
+
+Outcome Convert(const std::string& file, const CommandOptions& options, WrittenOutputs& written) {
   Outcome outcome;
   const std::string output = CConverter::OutputPath(file);
   if (WouldReplaceInput(file, output)) {
     outcome.Error = file + ": the output would replace the input; rename the input to end in .s2k";
     return outcome;
   }
+  const auto [earlier, isNew] = written.try_emplace(output, file);
+  if (!isNew && earlier->second != file) {
+    outcome.Error = file + ": the output would replace that of " + earlier->second;
+    return outcome;
+  }
   CommandPlatform platform(options, file, outcome.Messages);
   CConverter converter(platform);
   try {
     outcome.Result = converter.Run(file.c_str());
-    if (outcome.Result == s2k2ngt::kFailed) {
-      outcome.Error = converter.Failure().Describe(file);
-    }
-  } catch (const s2k2ngt::MemoryException&) {
-    outcome.Error = file + ": there is not enough memory for this model";
-  } catch (const std::exception& exception) {
-    s2k2ngt::Diagnostic failure = converter.Failure();
-    failure.Reason = exception.what();
-    outcome.Error = failure.Describe(file);
+  } catch (const std::exception&) {
+    outcome.Result = s2k2ngt::kFailed;
   }
+  const s2k2ngt::Diagnostic& ended = converter.Failure();
   if (outcome.Result == s2k2ngt::kConverted) {
     outcome.Output = output;
+  } else if (outcome.Result == s2k2ngt::kFailed) {
+    outcome.Error = ended.Describe(file);
+  } else if (ended.Phase == s2k2ngt::kWriting) {
+    outcome.Unfinished = output;
   }
   return outcome;
 }
@@ -101,20 +115,27 @@ void PrintJson(const std::string& file, const Outcome& outcome) {
   std::cout << object.dump(-1, ' ', false, ordered_json::error_handler_t::replace) << std::endl;
 }
 
+void PrintLine(const std::string& text) {
+  std::cerr << "s2k2ngt: " << s2k2ngt::Printable(text) << '\n';
+}
+
 void PrintOutcome(const std::string& file, const Outcome& outcome, const CommandOptions& options) {
   if (outcome.Error) {
-    std::cerr << "s2k2ngt: " << *outcome.Error << '\n';
+    PrintLine(*outcome.Error);
+  } else if (outcome.Unfinished) {
+    PrintLine(file + ": stopped; " + *outcome.Unfinished + " is left unfinished");
   } else if (outcome.Result == s2k2ngt::kStopped) {
-    std::cerr << "s2k2ngt: " << file << ": stopped\n";
+    PrintLine(file + ": stopped");
   } else if (!options.Quiet) {
-    std::cerr << "s2k2ngt: " << file << ": converted to " << *outcome.Output << '\n';
+    PrintLine(file + ": converted to " + *outcome.Output);
   }
 }
 
 }  // namespace
 
 int ConvertFiles(const CommandOptions& options) {
-  CatchInterrupts();
+  const s2k2ngt::InterruptGuard interrupts;
+  WrittenOutputs written;
   bool oneFailed = false;
   bool oneStopped = false;
   for (const std::string& file : options.Files) {
@@ -122,7 +143,7 @@ int ConvertFiles(const CommandOptions& options) {
     if (WasInterrupted()) {
       outcome.Result = s2k2ngt::kStopped;
     } else {
-      outcome = Convert(file, options);
+      outcome = Convert(file, options, written);
     }
     PrintOutcome(file, outcome, options);
     if (options.Json) {

@@ -2,41 +2,79 @@
 
 #include <s2k2ngt/s2k2ngt.h>
 
+#include <array>
 #include <exception>
 #include <iostream>
 
-#include <CLI/CLI.hpp>
+#include <getopt.h>
 
 namespace {
 
+constexpr const char* kHelp =
+    R"(Usage: s2k2ngt [options] FILE...
+
+Converts SAP2000 V8 text files (.s2k) into the host application's command text
+files (.ngt), one after the other. Each output is written beside its input,
+under the same name; a file that is there is replaced.
+
+Options:
+  --json           print what became of each file as one line of JSON
+  --quiet          show no messages and no progress, only failures
+  --no-progress    show no progress bar
+  --list-messages  print the key and the text of every message, and exit
+  --help           print this help, and exit
+  --version        print the version, and exit
+
+Results go to standard output, everything for people to standard error.
+Exit status: 0 all files converted, 1 a run was stopped, 2 at least one file
+failed, 64 wrong usage.
+)";
+
 int Run(int argc, char** argv) {
+  enum Option : int { Json = 1, Quiet, NoProgress, ListAllMessages, Help, Version };
+  constexpr std::array<option, 7> kOptions = {
+      {{"json", no_argument, nullptr, Json},
+       {"quiet", no_argument, nullptr, Quiet},
+       {"no-progress", no_argument, nullptr, NoProgress},
+       {"list-messages", no_argument, nullptr, ListAllMessages},
+       {"help", no_argument, nullptr, Help},
+       {"version", no_argument, nullptr, Version},
+       {nullptr, 0, nullptr, 0}}};
   CommandOptions options;
-  bool listMessages = false;
-  CLI::App app(
-      "Converts SAP2000 V8 text files (.s2k) into the host application's command text files "
-      "(.ngt).\nEach output is written beside its input, under the same name; a file that is there "
-      "is replaced.",
-      "s2k2ngt");
-  app.add_option("FILE", options.Files, "The files to convert, one after the other");
-  app.add_flag("--json", options.Json,
-               "Print what became of each file as one line of JSON on standard output");
-  app.add_flag("--quiet", options.Quiet, "Show no messages and no progress, only failures");
-  app.add_flag("--no-progress", options.NoProgress, "Show no progress bar");
-  app.add_flag("--list-messages", listMessages,
-               "Print the key and the text of every message, and exit");
-  app.set_version_flag("--version", std::string("s2k2ngt ") + s2k2ngt_version());
-  app.footer(
-      "Exit status: 0 all files converted, 1 a run was stopped, 2 at least one file failed, "
-      "64 wrong usage.");
-  try {
-    app.parse(argc, argv);
-    if (!listMessages && options.Files.empty()) {
-      throw CLI::RequiredError("FILE");
+  for (;;) {
+    const int option = getopt_long(argc, argv, "", kOptions.data(), nullptr);
+    if (option == -1) {
+      break;
     }
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kAllConverted : kWrongUsage;
+    switch (option) {
+      case Json:
+        options.Json = true;
+        break;
+      case Quiet:
+        options.Quiet = true;
+        break;
+      case NoProgress:
+        options.NoProgress = true;
+        break;
+      case ListAllMessages:
+        return ListMessages();
+      case Help:
+        std::cout << kHelp;
+        return kAllConverted;
+      case Version:
+        std::cout << "s2k2ngt " << s2k2ngt_version() << '\n';
+        return kAllConverted;
+      default:  // the library has said what is wrong
+        std::cerr << "Try s2k2ngt --help.\n";
+        return kWrongUsage;
+    }
   }
-  return listMessages ? ListMessages() : ConvertFiles(options);
+  options.Files.assign(argv + optind, argv + argc);
+  if (options.Files.empty()) {
+    std::cerr << "s2k2ngt: there is no file to convert\nTry s2k2ngt --help.\n";
+    return kWrongUsage;
+  }
+  return ConvertFiles(options);
 }
 
 }  // namespace

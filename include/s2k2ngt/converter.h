@@ -17,10 +17,13 @@ enum RunResult : int {
   kStopped = 1,  ///< by the user
 };
 
-/// Where and why a run failed, for people to read. The result code alone decides; this explains.
+/// The phases of a run.
+enum RunPhase : int { kNotBegun = 0, kReading = 1, kConverting = 2, kWriting = 3 };
+
+/// Where a run ended, and why if it failed, for people to read. The result code alone decides.
 struct S2K2NGT_API Diagnostic {
-  /// 0 before reading, 1 reading, 2 converting, 3 writing.
-  int Phase = 0;
+  /// The phase that was begun last.
+  RunPhase Phase = kNotBegun;
   /// Line of the source file, counted from 1; 0 when no line is to blame.
   std::uint64_t Line = 0;
   /// Title of the table that was being read; empty outside a table.
@@ -52,13 +55,17 @@ class S2K2NGT_API CConverter {
 
   /// Reads, converts and writes. Returns a RunResult.
   ///
-  /// A failure before writing leaves no output file; a stop or failure while writing leaves the
-  /// file as far as it was written, without its closing `*ENDDATA`. Throws FileException when a
-  /// file cannot be read on, created or written, MemoryException, and InvalidArgumentException for
-  /// a table of units or coordinate systems without the row that it must have.
+  /// A failure or stop before writing leaves an output file that is there as it was; one while
+  /// writing leaves the new file as far as it was written, without its closing `*ENDDATA`. An input
+  /// whose name ends in ".ngt" is its own output and is replaced.
+  ///
+  /// Throws FileException when a file cannot be read on, created or written, MemoryException, and
+  /// InvalidArgumentException for a table of units, coordinate systems or active degrees of freedom
+  /// without a row, or units that are not three. What the platform throws goes through.
   int Run(const char* pszPath);
 
-  /// Why the run failed; its reason is empty after any other result.
+  /// Where the last run ended; also after an exception. Its reason is empty unless the run failed.
+  /// Valid until the next run.
   const Diagnostic& Failure() const;
 
   /// The number of rows read into the model.

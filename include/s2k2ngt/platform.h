@@ -11,7 +11,8 @@ namespace s2k2ngt {
 /// derives its own and gives it to a CConverter; every operation but ShowMessage may stay empty.
 ///
 /// All operations are called on the thread of the run. Texts are single bytes, passed through as
-/// they stand in the file. An exception that an operation throws ends the run and goes to the host.
+/// they stand in the file. An exception that an operation throws ends the run and goes to the host,
+/// but for one of a CloseProgress that comes when the driver goes.
 class S2K2NGT_API Platform {
  public:
   virtual ~Platform();

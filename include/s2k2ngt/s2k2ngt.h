@@ -45,7 +45,8 @@ typedef struct s2k2ngt_host {
   void (*failure)(void* context, const char* reason);
 } s2k2ngt_host;
 
-/* Converts the file at `path` and writes the output beside it.
+/* Converts the file at `path` and writes the output beside it: all of the path up to its last dot,
+ * then ".ngt". A file of that name is replaced, also when it is the input itself.
  *
  * With result 0 the output's path, ended by a NUL, stands in `output`, which holds `output_size`
  * bytes; with any other result `output` is left as it was. `output` may be null if output_size is

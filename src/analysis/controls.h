@@ -6,8 +6,8 @@ namespace s2k2ngt {
 
 // ---- Output ----
 
-/// Writes *BUCK-CTRL. Its two closing newlines stand in every output, whether or not there is a
-/// buckling case: readers of the file count on them.
+/// Writes *BUCK-CTRL. Meant so: its two closing newlines stand in every output, whether or not
+/// there is a buckling case.
 bool WriteBucklingControl(Conversion& run, LineWriter& out);
 
 }  // namespace s2k2ngt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text.h"
+#include "source/row_grammar.h"
 #include "target/conversion.h"
 
 namespace s2k2ngt {
@@ -22,6 +23,15 @@ struct T_FRSH_D {  // NEHRP 97
 struct T_FRSZ_D {  // NZS 4203
   static constexpr Text kTable = "T_FRSZ_D";
 };
+
+template <>
+inline constexpr std::tuple<> kRowKeys<T_FRSB_D>{};
+template <>
+inline constexpr std::tuple<> kRowKeys<T_FRSF_D>{};
+template <>
+inline constexpr std::tuple<> kRowKeys<T_FRSH_D>{};
+template <>
+inline constexpr std::tuple<> kRowKeys<T_FRSZ_D>{};
 
 // ---- Conversion ----
 

@@ -16,8 +16,8 @@ namespace s2k2ngt {
 
 /// The bucket in which a chained hash of `bucketCount` buckets keeps `key`.
 ///
-/// The order of many output lines is that of such a hash: the program whose files the host's users
-/// know kept its tables that way, and their models are compared with what it wrote.
+/// The order of many output lines is that of such a hash. It is part of the output format: outputs
+/// of one model are compared line by line.
 constexpr std::uint32_t BucketOf(std::uint32_t key, std::uint32_t bucketCount) {
   const auto signedKey = static_cast<std::int32_t>(key);
   const std::int32_t quotient = signedKey / 127773;
@@ -91,6 +91,7 @@ class CKeyedTable {
       return *this;
     }
     bool operator==(const WalkIterator& other) const = default;
+    std::size_t Position() const { return m_Position; }
 
    private:
     const CKeyedTable* m_Table;
@@ -100,6 +101,7 @@ class CKeyedTable {
   struct WalkRange {
     WalkIterator First;
     WalkIterator Last;
+    std::size_t Size() const { return Last.Position() - First.Position(); }
     WalkIterator begin() const { return First; }
     WalkIterator end() const { return Last; }
   };
@@ -110,7 +112,8 @@ class CKeyedTable {
     return {WalkIterator(*this, 0), WalkIterator(*this, m_Walk.size())};
   }
 
-  /// The entry that a walk reaches at `position`, from 0.
+  /// The entry that a walk reaches at `position`, from 0. Only for positions that Walk or AllWith
+  /// gave since the last Insert.
   Entry AtWalk(std::size_t position) const {
     const std::uint32_t slot = m_Walk[position];
     return {KeyOfSlot(slot), m_Records[slot]};

@@ -4,7 +4,6 @@
 #include "frames/sections.h"
 #include "joints/nodes.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <unordered_map>
@@ -21,15 +20,42 @@ struct FrameProperty {
   std::int32_t iMAT = 0;
 };
 
+using MaterialByName = std::unordered_map<Text, std::optional<std::int32_t>>;
+
+/// The materials of nonprismatic sections by their names.
+///
+/// A walk over the segments takes each segment of the section, and goes on behind it with the name
+/// of the segment's start section; the material is that of the last start section that is there.
+/// Gone through from its end, the walk gives the answer for all names at once.
+MaterialByName MaterialsOfNonprismatic(CModel& model) {
+  MaterialByName materials;
+  const auto& sections = model.Rows<T_FRSG_D>();
+  const auto& segments = model.Rows<T_FSNP_D>();
+  for (std::size_t position = segments.Walk().Size(); position-- > 0;) {
+    const T_FSNP_D& segment = segments.AtWalk(position).Value;
+    std::optional<std::int32_t> material;
+    if (const auto behind = materials.find(segment.StartSect); behind != materials.end()) {
+      material = behind->second;
+    }
+    const auto start = sections.FirstWith<&T_FRSG_D::SectionName>(segment.StartSect);
+    if (!material && start) {
+      material = MaterialOrLastKey(model, start->Value.Material);
+    }
+    materials[segment.SectionName] = material;
+  }
+  return materials;
+}
+
 /// Looks up the section and material of frame after frame.
 class FramePropertyLookup {
  public:
-  explicit FramePropertyLookup(CModel& model) : m_Model(model) {}
+  explicit FramePropertyLookup(CModel& model)
+      : m_Model(model), m_NonprismaticMaterials(MaterialsOfNonprismatic(model)) {}
 
-  /// Sets what is found for the connectivity row of this key; what is not found keeps the value of
-  /// the frame looked up before, so that a frame without a known section shares that of its
-  /// neighbour. This is meant: hosts accept no element without a section.
-  void Find(std::uint32_t frameKey, FrameProperty& property) {
+  /// Sets what is found for the connectivity row of this key. Meant so: what is not found keeps the
+  /// value of the frame looked up before, so that a frame without a known section shares that of
+  /// its neighbour in the walk.
+  void Find(std::uint32_t frameKey, FrameProperty& property) const {
     // Assignments and frames are paired by position: the two tables list the frames in one order.
     const auto& assignments = m_Model.Rows<T_FRSC_D>();
     if (assignments.Empty()) {
@@ -49,40 +75,13 @@ class FramePropertyLookup {
   }
 
  private:
-  /// The material of a nonprismatic section: that of the section at which its chain of start
-  /// sections ends. Nothing when no link of the chain is a section.
-  std::optional<std::int32_t> MaterialOfNonprismatic(Text sectionName) {
-    const auto [known, isNew] = m_MaterialOfNonprismatic.try_emplace(sectionName);
-    if (isNew) {
-      known->second = FollowStartSections(sectionName);
-    }
-    return known->second;
-  }
-
-  std::optional<std::int32_t> FollowStartSections(Text sectionName) {
-    // The walk over the segments goes on behind a match with the name of that segment's start
-    // section, so that a section whose segments start in nonprismatic sections is followed as far
-    // as the walk's order lets it.
-    const auto& segments = m_Model.Rows<T_FSNP_D>();
-    std::optional<std::int32_t> material;
-    std::uint32_t position = 0;
-    for (Text name = sectionName;;) {
-      const auto positions = segments.AllWith<&T_FSNP_D::SectionName>(name);
-      const auto next = std::ranges::lower_bound(positions, position);
-      if (next == positions.end()) {
-        return material;
-      }
-      position = *next + 1;
-      name = segments.AtWalk(*next).Value.StartSect;
-      if (const auto start = m_Model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(name)) {
-        const auto found = MaterialOrLastKey(m_Model, start->Value.Material);
-        material = found ? found : material;
-      }
-    }
+  std::optional<std::int32_t> MaterialOfNonprismatic(Text sectionName) const {
+    const auto found = m_NonprismaticMaterials.find(sectionName);
+    return found == m_NonprismaticMaterials.end() ? std::nullopt : found->second;
   }
 
   CModel& m_Model;
-  std::unordered_map<Text, std::optional<std::int32_t>> m_MaterialOfNonprismatic;
+  MaterialByName m_NonprismaticMaterials;
 };
 
 double AngleOfFrame(CModel& model, Text frame) {
@@ -129,7 +128,7 @@ double AngleTowards(Text localPlane, Text direction, double angle) {
 
 /// The angle of a plane vector in the global YZ plane, which every frame is taken to be seen in.
 double ChangeForVector(double y, double z) {
-  // Ten digits of pi, as the users' files have been converted with them all along.
+  // Ten digits of pi and no more, so that outputs stay comparable to the last digit.
   constexpr double kPi = 3.1415926535;
   return std::atan2(z, y) * 180 / kPi - 90;
 }
@@ -154,10 +153,10 @@ bool ConvertFrames(Conversion& run) {
   if (frames.Empty()) {
     return true;
   }
-  // Set for every model with frames, though their angles are carried over: mirrored sections and
-  // the planes of advanced axes are for the engineer to look at.
+  // Meant so: set for every model with frames, though their angles are carried over. Mirrored
+  // sections are not, and the engineer has to look at both.
   run.Warnings.bFrameLocalAxesLost = true;
-  FramePropertyLookup properties(run.Source);
+  const FramePropertyLookup properties(run.Source);
   FrameProperty property;  // kept from frame to frame
   for (const auto [key, frame] : frames.Walk()) {
     properties.Find(key, property);

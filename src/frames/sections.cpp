@@ -43,8 +43,8 @@ std::array<double, 6> PrismaticDimensions(Text shapeCode, const T_FRSG_D& sectio
   return {section.t3, section.t2, section.tw, section.tf, section.t2b, section.tfb};
 }
 
-/// Dimensions at an end of a tapered section. Double angles are not taken apart here: the target
-/// reads those of a tapered section as the source states them.
+/// Dimensions at an end of a tapered section. Meant so: double angles are not taken apart here, as
+/// they are for a section of one shape.
 std::array<double, 6> TaperedDimensions(Text shapeCode, const T_FRSG_D& section) {
   if (shapeCode == "P") {
     return {section.t3, section.tw};
@@ -173,7 +173,7 @@ std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, std::uint32_t key,
 
 Text OffsetOfCardinalPoint(Text cardinalPoint, Text otherwise) {
   // The first text contained decides: "11 (Shear Center)" holds "1 (" and gives "RB". This is
-  // meant; the models that users have checked were converted so.
+  // meant.
   constexpr std::array<std::pair<Text, Text>, 11> kOffsets = {{{"1 (", "RB"},
                                                                {"2", "CB"},
                                                                {"3", "LB"},

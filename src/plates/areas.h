@@ -69,6 +69,9 @@ struct T_ALGR_D {
   static constexpr Text kTable = "T_ALGR_D";
 };
 
+template <>
+inline constexpr std::tuple<> kRowKeys<T_ALGR_D>{};
+
 /// Section modifiers of areas. Their table is refused, so that there are never any.
 struct T_ASMD_D {
   static constexpr Text kTable = "T_ASMD_D";
@@ -80,7 +83,6 @@ struct T_ALTP_D {
   static constexpr Text kTable = "T_ALTP_D";
   Text Area;
   double Angle = 0.0;  // degrees
-  bool AdvanceAxes = false;
 };
 
 // ---- Target records ----

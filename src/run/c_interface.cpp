@@ -5,7 +5,6 @@
 #include <s2k2ngt/s2k2ngt.h>
 #include <s2k2ngt/version.h>
 
-#include <algorithm>
 #include <cstring>
 #include <exception>
 #include <string>
@@ -38,12 +37,26 @@ class CallBackPlatform : public Platform {
   int m_Range = 0;
 };
 
-/// The call-backs that the host's version of the struct has; the others are null.
+static_assert(S2K2NGT_CONVERTED == kConverted && S2K2NGT_STOPPED == kStopped &&
+              S2K2NGT_FAILED == kFailed);
+
+/// The members that the host's version of the struct has; the others are null.
 s2k2ngt_host KnownPartOf(const s2k2ngt_host* host) {
   s2k2ngt_host known = {};
-  if (host != nullptr) {
-    std::memcpy(&known, host, std::min(host->size, sizeof known));
+  if (host == nullptr) {
+    return known;
   }
+  const auto take = [&](auto member) {
+    const auto end = reinterpret_cast<const char*>(&(host->*member) + 1);
+    if (end <= reinterpret_cast<const char*>(host) + host->size) {
+      known.*member = host->*member;
+    }
+  };
+  take(&s2k2ngt_host::context);
+  take(&s2k2ngt_host::message);
+  take(&s2k2ngt_host::progress);
+  take(&s2k2ngt_host::stop);
+  take(&s2k2ngt_host::failure);
   return known;
 }
 
@@ -68,10 +81,8 @@ int Convert(const char* path, const s2k2ngt_host& host, char* output, std::size_
   int result = kFailed;
   try {
     result = converter.Run(path);
-  } catch (const std::exception& exception) {
-    Diagnostic failure = converter.Failure();
-    failure.Reason = exception.what();
-    TellFailure(host, failure.Describe(path).c_str());
+  } catch (const std::exception&) {
+    TellFailure(host, converter.Failure().Describe(path).c_str());
     return kFailed;
   }
   if (result == kFailed) {
@@ -94,7 +105,7 @@ int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output, si
   try {
     return s2k2ngt::Convert(path, known, output, output_size);
   } catch (...) {
-    s2k2ngt::TellFailure(known, "memory ran out, or a call-back of the host threw an exception");
+    s2k2ngt::TellFailure(known, "a call-back of the host threw an exception");
     return S2K2NGT_FAILED;
   }
 }

@@ -30,11 +30,13 @@ class CConverter::Impl : private TableSink {
   std::uint64_t RowCount() const { return m_Model.RowCount(); }
 
  private:
+  int RunUncaught(const std::string& path);
   int RunPhases(const std::string& path);
   int Read();
   int Convert();
   int Write(const std::string& outputPath);
   int WriteAll(LineWriter& out);
+  bool WantsRows(int tableId) override;
   bool DispatchRows(const TableBlock& block) override;
 
   MessageBoxes m_Messages;
@@ -49,6 +51,18 @@ class CConverter::Impl : private TableSink {
 };
 
 int CConverter::Impl::Run(const std::string& path) {
+  try {
+    return RunUncaught(path);
+  } catch (const MemoryException&) {
+    m_Failure.Reason = "there is not enough memory for this model";
+    throw;
+  } catch (const std::exception& exception) {
+    m_Failure.Reason = exception.what();
+    throw;
+  }
+}
+
+int CConverter::Impl::RunUncaught(const std::string& path) {
   m_File = ReadSourceFile(path);
   m_PrgsDlg.Create();
   m_PrgsDlg.SetRange(static_cast<int>(CountLines(m_File.Image)));
@@ -59,14 +73,9 @@ int CConverter::Impl::Run(const std::string& path) {
     return kFailed;
   }
   m_Messages.Show("IDS_S2KV8_Export_must_be_executed");
-  try {
-    const int result = RunPhases(path);
-    m_PrgsDlg.Destroy();
-    return result;
-  } catch (const std::exception& exception) {
-    m_Failure.Reason = exception.what();
-    throw;
-  }
+  const int result = RunPhases(path);
+  m_PrgsDlg.Destroy();
+  return result;
 }
 
 int CConverter::Impl::RunPhases(const std::string& path) {
@@ -81,7 +90,7 @@ int CConverter::Impl::RunPhases(const std::string& path) {
 }
 
 int CConverter::Impl::Read() {
-  m_Failure.Phase = 1;
+  m_Failure.Phase = kReading;
   TableScanner scanner(m_File.Image, m_Model.Texts(), m_Messages, m_PrgsDlg, *this);
   const int result = scanner.Read();
   if (result == kFailed && m_Failure.Reason.empty()) {
@@ -90,6 +99,10 @@ int CConverter::Impl::Read() {
     m_Failure.Reason = scanner.Reason();
   }
   return result;
+}
+
+bool CConverter::Impl::WantsRows(int tableId) {
+  return FindRowParser(OutcomeOf(tableId).Record) != nullptr;
 }
 
 bool CConverter::Impl::DispatchRows(const TableBlock& block) {
@@ -108,7 +121,7 @@ bool CConverter::Impl::DispatchRows(const TableBlock& block) {
     return true;
   }
   m_Failure.Table = block.Title;
-  m_Failure.Line = block.Line;
+  m_Failure.Line = block.Rows.empty() ? block.Line : block.Rows.front().Line;
   if (const std::optional<Refusal> refusal = parse(block.Rows, m_Model, m_Messages)) {
     m_Failure.Line = refusal->Line;
     m_Failure.Reason = refusal->Reason;
@@ -120,8 +133,8 @@ bool CConverter::Impl::DispatchRows(const TableBlock& block) {
 }
 
 int CConverter::Impl::Convert() {
-  m_Failure.Phase = 2;
-  m_PrgsDlg.SetPhase(2);
+  m_Failure.Phase = kConverting;
+  m_PrgsDlg.SetPhase(kConverting);
   m_PrgsDlg.SetRange(20);
   int position = 0;
   for (const Stage& stage : kStages) {
@@ -137,8 +150,8 @@ int CConverter::Impl::Convert() {
 }
 
 int CConverter::Impl::Write(const std::string& outputPath) {
-  m_Failure.Phase = 3;
-  m_PrgsDlg.SetPhase(3);
+  m_Failure.Phase = kWriting;
+  m_PrgsDlg.SetPhase(kWriting);
   OutputFile file(outputPath);
   LineWriter out(file);
   WriteFileHead(outputPath, out);
@@ -196,7 +209,7 @@ std::string Diagnostic::Describe(const std::string& fileName) const {
     text.append(":").append(std::to_string(Line));
   }
   text.append(": ");
-  if (Phase > 0) {
+  if (Phase != kNotBegun) {
     text.append(kDoing.at(static_cast<std::size_t>(Phase)));
     if (!Table.empty()) {
       text.append(" table \"").append(Table).append("\"");

@@ -5,7 +5,12 @@
 
 namespace s2k2ngt {
 
-CPrgsDlg::~CPrgsDlg() { Destroy(); }
+CPrgsDlg::~CPrgsDlg() {
+  try {
+    Destroy();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the run is over, with a result or an exception
+  }
+}
 
 void CPrgsDlg::Create() {
   m_Platform.OpenProgress();

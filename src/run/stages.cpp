@@ -7,6 +7,7 @@
 #include "frames/sections.h"
 #include "joints/nodes.h"
 #include "plates/areas.h"
+#include "plates/solids.h"
 
 #include <span>
 
@@ -62,9 +63,16 @@ constexpr std::array kAreaSteps = std::to_array<Stage>({
     {"temperature loads", NotConvertedYet},
 });
 
+constexpr std::array kSolidSteps = std::to_array<Stage>({
+    {"connectivity", NoteSolidLabels},
+    {"temperature loads", NotConvertedYet},
+    {"gravity loads", NotConvertedYet},
+});
+
 bool ConvertJointGroup(Conversion& run) { return RunGroup(kJointSteps, run); }
 bool ConvertFrameGroup(Conversion& run) { return RunGroup(kFrameSteps, run); }
 bool ConvertAreaGroup(Conversion& run) { return RunGroup(kAreaSteps, run); }
+bool ConvertSolidGroup(Conversion& run) { return RunGroup(kSolidSteps, run); }
 
 }  // namespace
 
@@ -73,7 +81,7 @@ const std::array<Stage, 19> kStages = {{
     {"frames", ConvertFrameGroup},
     {"links", NotConvertedYet},
     {"areas", ConvertAreaGroup},
-    {"solids", NotConvertedYet},
+    {"solids", ConvertSolidGroup},
     {"static load cases", NotConvertedYet},
     {"materials", ConvertMaterials},
     {"frame sections", ConvertSections},

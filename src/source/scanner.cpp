@@ -47,7 +47,7 @@ TableScanner::TableScanner(Text image, TextStore& texts, Messages& messages, Pro
     : m_Lines(image), m_Texts(texts), m_Messages(messages), m_Progress(progress), m_Sink(sink) {}
 
 int TableScanner::Read() {
-  m_Progress.SetPhase(1);
+  m_Progress.SetPhase(kReading);
   State state = State::BetweenBlocks;
   for (;;) {
     switch (state) {
@@ -105,19 +105,20 @@ TableScanner::State TableScanner::FindBlock() {
     }
     const bool isOlderFormat =
         std::ranges::any_of(kOlderFormatWords, [&](Text word) { return line.starts_with(word); });
-    const State state = TakeForeignLine(isOlderFormat);
+    const State state = TakeForeignLine(isOlderFormat, isNew);
     if (state != State::BetweenBlocks) {
       return state;
     }
   }
 }
 
-TableScanner::State TableScanner::TakeForeignLine(bool isOlderFormat) {
+TableScanner::State TableScanner::TakeForeignLine(bool isOlderFormat, bool isNew) {
   if (isOlderFormat) {
     return Refuse("the file is of the format before V8");
   }
   if (m_LineCounter > kForeignLinesAtMost) {
-    return Refuse("the line is neither a table's title nor the end of the file");
+    return isNew ? Refuse("the line is neither a table's title nor the end of the file")
+                 : RefuseEndlessText();
   }
   m_Messages.Show("IDS_S2KV8_DATA_Not_Convert");
   return State::BetweenBlocks;
@@ -149,13 +150,14 @@ TableScanner::State TableScanner::ReadBlock() {
       StartBlock();
       continue;
     }
-    if (m_TableId > 0) {
+    if (m_RowsAreWanted) {
       AddLineToRow(line);
     }
   }
 }
 
 void TableScanner::StartBlock() {
+  m_RowsAreWanted = m_TableId > 0 && m_Sink.WantsRows(m_TableId);
   m_Rows.clear();
   m_PendingText.clear();
   m_RowGoesOn = false;

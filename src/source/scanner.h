@@ -24,6 +24,8 @@ struct TableBlock {
 class TableSink {
  public:
   virtual ~TableSink() = default;
+  /// False when the rows of a table are not looked at; its blocks then come without them.
+  virtual bool WantsRows(int tableId) = 0;
   /// False ends the scan in failure.
   virtual bool DispatchRows(const TableBlock& block) = 0;
 
@@ -39,9 +41,9 @@ class TableSink {
 /// to an all but empty line, and at last a line that begins with END. A row goes on in the next
 /// line where it holds " _". The scanner knows nothing of a table's keys.
 ///
-/// The rules for short, foreign and repeated lines are those of the C program that first read these
-/// files: at the end of the file its line buffer kept the last line, and files are around that end
-/// only because of it.
+/// The rules for short, foreign and repeated lines are those of a C program that reads line after
+/// line into one buffer and never asks whether it got one: at the end of the file the buffer keeps
+/// the last line, and a file may end by that.
 class TableScanner {
  public:
   TableScanner(Text image, TextStore& texts, Messages& messages, Progress& progress,
@@ -61,7 +63,7 @@ class TableScanner {
 
   State FindBlock();
   State ReadBlock();
-  State TakeForeignLine(bool isOlderFormat);
+  State TakeForeignLine(bool isOlderFormat, bool isNew);
   State Refuse(const std::string& reason);
   State RefuseEndlessText();
   void StartBlock();
@@ -73,8 +75,9 @@ class TableScanner {
   Progress& m_Progress;
   TableSink& m_Sink;
 
-  std::int64_t m_LineCounter = 0;  // lines that count: neither short nor, in a block, its end
+  std::int64_t m_LineCounter = 0;  // of all lines but the short ones
   int m_TableId = 0;
+  bool m_RowsAreWanted = false;
   std::string m_Title;
   std::uint64_t m_TitleLine = 0;
   std::vector<SourceRow> m_Rows;

@@ -32,6 +32,9 @@ SourceFile ReadSourceFile(const std::string& path) {
   std::size_t room = sizeUnknown ? std::size_t{1} << 16U : static_cast<std::size_t>(size) + 1;
   std::size_t used = 0;
   for (;;) {
+    if (room > source.Image.max_size() - used) {
+      throw MemoryException();
+    }
     source.Image.resize(used + room);
     const std::size_t count = std::fread(source.Image.data() + used, 1, room, file.get());
     used += count;

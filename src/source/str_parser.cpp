@@ -39,28 +39,36 @@ double Combine(double left, char operation, double right) {
 
 void RowScan::SetRow(Text row) {
   m_Row = row;
-  m_EqualsSigns.clear();
-  for (std::size_t at = row.find('='); at != Text::npos; at = row.find('=', at + 1)) {
-    m_EqualsSigns.push_back(at);
+  m_Noted = 0;
+  for (std::size_t at = row.find('='); at != Text::npos && m_Noted < kNotedAtMost;
+       at = row.find('=', at + 1)) {
+    m_EqualsSigns[m_Noted++] = at;
   }
 }
 
+std::size_t RowScan::SignBehind(std::size_t index, std::size_t place) const {
+  if (index + 1 < m_Noted) {
+    return m_EqualsSigns[index + 1];
+  }
+  return m_Noted < kNotedAtMost ? Text::npos : m_Row.find('=', place + 1);
+}
+
 std::optional<Text> RowScan::FindValue(Text key) const {
-  for (std::size_t sign = 0; sign < m_EqualsSigns.size(); ++sign) {
-    const std::size_t end = m_EqualsSigns[sign] + 1;
-    if (!m_Row.substr(0, end).ends_with(key)) {
-      continue;
-    }
-    Text value = m_Row.substr(end);
-    if (sign + 1 < m_EqualsSigns.size()) {
-      // A blank right behind the key is not looked at: "Name= Next=1" gives the value " Next=1".
-      const std::size_t nextSign = m_EqualsSigns[sign + 1] - end;
-      const std::size_t blank = value.substr(0, nextSign).rfind(' ');
-      if (blank != Text::npos && blank > 0) {
-        value = value.substr(0, blank);
+  std::size_t place = m_Noted > 0 ? m_EqualsSigns[0] : Text::npos;
+  for (std::size_t index = 0; place != Text::npos; ++index) {
+    const std::size_t next = SignBehind(index, place);
+    if (m_Row.substr(0, place + 1).ends_with(key)) {
+      Text value = m_Row.substr(place + 1);
+      if (next != Text::npos) {
+        // A blank right behind the key is not looked at: "Name= Next=1" has the value " Next=1".
+        const std::size_t blank = value.substr(0, next - place - 1).rfind(' ');
+        if (blank != Text::npos && blank > 0) {
+          value = value.substr(0, blank);
+        }
       }
+      return TrimRight(value);
     }
-    return TrimRight(value);
+    place = next;
   }
   return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include "common/text.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -25,13 +26,21 @@ class RowScan {
   /// sign, without trailing white space; nothing when the row does not hold the key.
   ///
   /// `key` ends in its equals sign and holds no other. The word before the sign has no boundary:
-  /// "Joint=" is met inside "PanelJoint=" and "Z=" inside "GlobalZ=", if they stand first. The
-  /// source program writes its rows so that this does no harm.
+  /// "Joint=" is met inside "PanelJoint=" and "Z=" inside "GlobalZ=", if they stand first. Where
+  /// that would do harm, a table asks for the key with a blank before it.
   std::optional<Text> FindValue(Text key) const;
 
  private:
+  /// The place of the sign behind the one that stands at `place` and is the `index`-th.
+  std::size_t SignBehind(std::size_t index, std::size_t place) const;
+
+  // The places of a row's first equals signs. Rows of the source program have fewer; a longer one
+  // is searched on from there.
+  static constexpr std::size_t kNotedAtMost = 64;
+
   Text m_Row;
-  std::vector<std::size_t> m_EqualsSigns;
+  std::array<std::size_t, kNotedAtMost> m_EqualsSigns{};
+  std::size_t m_Noted = 0;
 };
 
 /// Gets values out of rows. It holds no state.
@@ -45,7 +54,7 @@ class CStrParser {
 
   /// Splits a value at its commas, quotes and, in a list, blanks removed. A value without a comma
   /// is one number as atof reads it; each piece of a list is an expression. So "1/2" is 1 and
-  /// "1/2,3" is 0.5 and 3: source files rely on both.
+  /// "1/2,3" is 0.5 and 3; both are meant.
   static void SplitDoubles(Text text, std::vector<double>& values);
   static void SplitStrings(Text text, std::vector<std::string>& values);
 

@@ -3,6 +3,7 @@
 #include "common/messages.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -471,6 +472,9 @@ std::span<const SourceTable> SourceTables() {
 std::uint32_t BucketsOfSourceTable(Text recordName) {
   const auto tables = SourceTables();
   const auto found = std::ranges::find(tables, recordName, &SourceTable::Name);
+  if (found == tables.end()) {
+    throw std::logic_error("the catalogue has no table of " + std::string(recordName));
+  }
   return found->Buckets;
 }
 

@@ -17,8 +17,8 @@ namespace s2k2ngt {
 // A title is known by two words: a keyword that stands first in it, and for most keywords a second
 // word found anywhere in the title. Both lists are walked in their order and the first hit counts,
 // so that a longer word stands before a shorter one that it holds. Where a list has it the other
-// way round ("SEISMIC - UBC97" before "SEISMIC - UBC97 ISOLATED") the shorter word wins, and hosts
-// rely on the outcome: the orders are part of the format.
+// way round ("SEISMIC - UBC97" before "SEISMIC - UBC97 ISOLATED") the shorter word wins, and this
+// is meant: the orders are part of the format.
 
 /// What becomes of a table's rows.
 enum class TableFate {
@@ -78,10 +78,11 @@ struct SourceTable {
   std::uint32_t Buckets;
 };
 
-/// All tables of the source model, in the order of their ids; last those that no title fills.
+/// All tables of the source model, in the order of the keywords and their second words; last those
+/// that no title fills.
 std::span<const SourceTable> SourceTables();
 
-/// The bucket count of the table that holds records of this name.
+/// The bucket count of the table that holds records of this name, which must be one of them.
 std::uint32_t BucketsOfSourceTable(Text recordName);
 
 }  // namespace s2k2ngt

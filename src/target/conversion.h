@@ -15,7 +15,6 @@ struct DeferredWarnings {
   bool bElemLengthZero = false;
   bool bFrameLocalAxesLost = false;
   bool bPlateLocalAxesLost = false;
-  bool bSolidLocalAxesLost = false;
   bool bFrameEndPartial = false;
   bool bFrameEndOffsetRelease = false;  ///< no stage sets it; the test of its writer stays
   bool bMaterialAnisotropic = false;

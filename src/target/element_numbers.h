@@ -68,9 +68,9 @@ class ElementNumbers {
   CKeyedTable<MAP_ELEM> m_ElemMap{kTargetBuckets};
 };
 
-/// The element numbers of the references that one call of a writer prints. A reference to an
-/// element that is not there prints the number of the reference before it, 0 before the first: the
-/// rows of an unknown element stay with their neighbour, which is where engineers look for them.
+/// The element numbers of the references that one call of a writer prints. Meant so: in a
+/// renumbered model a reference to an element that is not there prints the number of the reference
+/// before it, 0 before the first.
 class ElementReferences {
  public:
   ElementReferences(const ElementNumbers& numbers, Text family)

@@ -7,7 +7,7 @@ void LineWriter::Flush() {
   m_Used = 0;
 }
 
-void LineWriter::MakeRoomFor(std::string_view text) {
+void LineWriter::AppendBehindFlush(std::string_view text) {
   Flush();
   if (text.size() > m_Buffer.size()) {
     m_File.Write(text);

@@ -105,7 +105,7 @@ class LineWriter {
 
   void Append(std::string_view text) {
     if (text.size() > m_Buffer.size() - m_Used) {
-      MakeRoomFor(text);
+      AppendBehindFlush(text);
       return;
     }
     std::copy(text.begin(), text.end(), m_Buffer.data() + m_Used);
@@ -126,7 +126,7 @@ class LineWriter {
     std::array<char, kIntegerSize> text{};
     AppendPadded({text.data(), FormatInteger(text.data(), value)}, width);
   }
-  void MakeRoomFor(std::string_view text);
+  void AppendBehindFlush(std::string_view text);
 
   OutputFile& m_File;
   std::vector<char> m_Buffer;

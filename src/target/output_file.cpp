@@ -27,6 +27,6 @@ void OutputFile::Close() {
   }
 }
 
-void OutputFile::Fail(const std::string& what) const { throw FileException(what, errno, m_Path); }
+void OutputFile::Fail(const char* what) const { throw FileException(what, errno, m_Path); }
 
 }  // namespace s2k2ngt

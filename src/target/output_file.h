@@ -19,7 +19,7 @@ class OutputFile {
   void Close();
 
  private:
-  [[noreturn]] void Fail(const std::string& what) const;
+  [[noreturn]] void Fail(const char* what) const;
 
   struct Closer {
     void operator()(std::FILE* file) const { std::fclose(file); }

@@ -125,7 +125,7 @@ TEST_F(CommandTest, MissingUnitsAreToldInWords) {
   EXPECT_EQ(run.Status, 2);
   EXPECT_EQ(
       JsonLines(run.Out).at(0)["error"],
-      "tower.s2k:3: reading table \"PROGRAM CONTROL\": CurrUnits= must name force, length and "
+      "tower.s2k:4: reading table \"PROGRAM CONTROL\": CurrUnits= must name force, length and "
       "temperature");
 }
 
@@ -165,6 +165,52 @@ TEST_F(CommandTest, LabelsOfOtherCharacterSetsDoNotBreakTheJson) {
   EXPECT_EQ(JsonLines(run.Out).at(0)["input"], "caf\xEF\xBF\xBD.s2k");
 }
 
+TEST_F(CommandTest, FileNamesAreTakenAsTheyStand) {
+  for (const char* name : {"[a,b]", "a b", "*", "-x.s2k"}) {
+    Write(name, kOneJoint);
+    const CommandRun run = Call({"--json", "--", name});
+    EXPECT_EQ(run.Status, 0) << name;
+    EXPECT_EQ(JsonLines(run.Out).at(0)["input"], name);
+  }
+  EXPECT_EQ(Call({"[a,b]"}).Status, 0);
+}
+
+TEST_F(CommandTest, OutputOfAnotherInputOfTheCallIsNotReplaced) {
+  Write("a.s2k", kOneJoint);
+  Write("a.txt", kOneJoint);
+  const CommandRun run = Call({"--json", "a.s2k", "a.txt", "a.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  const std::vector<json> objects = JsonLines(run.Out);
+  ASSERT_EQ(objects.size(), 3U);
+  EXPECT_EQ(objects[0]["result"], 0);
+  EXPECT_EQ(objects[1]["error"], "a.txt: the output would replace that of a.s2k");
+  EXPECT_EQ(objects[2]["result"], 0);
+}
+
+TEST_F(CommandTest, ControlCharactersOfALabelDoNotReachTheTerminal) {
+  Write("tower.s2k",
+        FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=\x1b]0;owned\a   CoordType=Polar\n"));
+  const CommandRun run = Call({"--json", "tower.s2k"});
+  EXPECT_THAT(run.Err, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(run.Err, HasSubstr("joint ?]0;owned? has"));
+  EXPECT_THAT(JsonLines(run.Out).at(0)["error"].get<std::string>(), HasSubstr("\x1b]0;owned\a"));
+}
+
+TEST_F(CommandTest, InputTooLargeForTheMemoryIsToldInWords) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the sanitizer takes more address space than any limit leaves";
+#endif
+  // A file with nothing in it but its size.
+  Write("vast.s2k", "");
+  std::filesystem::resize_file(m_Folder.Path() / "vast.s2k", std::uintmax_t{1} << 36U);
+  const CommandRun run = RunCommand(
+      {.Words = {"/bin/sh", "-c", "ulimit -v 2000000; exec " S2K2NGT_COMMAND " --json vast.s2k"},
+       .Folder = m_Folder.Path()});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_EQ(JsonLines(run.Out).at(0)["error"],
+            "vast.s2k: there is not enough memory for this model");
+}
+
 TEST_F(CommandTest, QuietShowsNothingButFailures) {
   Write("tower.s2k", kOneJoint);
   EXPECT_EQ(Call({"--quiet", "tower.s2k"}).Err, "");
@@ -174,8 +220,10 @@ TEST_F(CommandTest, QuietShowsNothingButFailures) {
 
 TEST_F(CommandTest, WrongUsageIsStatusSixtyFour) {
   EXPECT_EQ(Call({}).Status, 64);
-  EXPECT_THAT(Call({}).Err, HasSubstr("FILE is required"));
+  EXPECT_THAT(Call({}).Err, HasSubstr("there is no file to convert"));
   EXPECT_EQ(Call({"--no-such-option", "a.s2k"}).Status, 64);
+  EXPECT_THAT(Call({"--no-such-option", "a.s2k"}).Err, HasSubstr("--no-such-option"));
+  EXPECT_EQ(Call({"--json=yes", "a.s2k"}).Status, 64);
   EXPECT_EQ(Call({"--json"}).Status, 64);
   EXPECT_EQ(Call({"--json"}).Out, "");
 }

@@ -393,4 +393,36 @@ TABLE:  "FRAME SECTION ASSIGNMENTS"
   EXPECT_THAT(run.Lines("*ELEMENT"), Contains("\t1,  BEAM,     2,     1,     1,     2,     0"));
 }
 
+TEST(FrameProperties, ChainOfNonprismaticSectionsIsFollowedAsFarAsTheWalkAllows) {
+  // Segments are walked in the order 3, 2, 1. From A the walk meets key 2 (A starts in B), then
+  // key 1 (B starts in C); from B it meets key 1 alone. Key 3 lies before both.
+  const ConversionRun run = Convert(R"(
+TABLE:  "MATERIAL PROPERTIES 1 - GENERAL"
+   Material=M1   Type=Isotropic
+   Material=M2   Type=Isotropic
+   Material=M3   Type=Isotropic
+
+TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
+   SectionName=A   Shape=Nonprismatic
+   SectionName=B   Shape=Nonprismatic   Material=M1
+   SectionName=C   Shape=Rectangular   Material=M2
+   SectionName=D   Shape=Rectangular   Material=M3
+
+TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
+   SectionName=B   NumSegments=1   SegmentNum=1   StartSect=C   EndSect=C
+   SectionName=A   NumSegments=1   SegmentNum=1   StartSect=B   EndSect=B
+   SectionName=C   NumSegments=1   SegmentNum=1   StartSect=D   EndSect=D
+
+TABLE:  "CONNECTIVITY - FRAME"
+   Frame=1   JointI=1   JointJ=2
+   Frame=2   JointI=2   JointJ=3
+
+TABLE:  "FRAME SECTION ASSIGNMENTS"
+   Frame=1   AnalSect=A
+   Frame=2   AnalSect=B
+)");
+  EXPECT_THAT(run.Lines("*ELEMENT"), ElementsAre("\t1,  BEAM,     2,     1,     1,     2,     0",
+                                                 "\t2,  BEAM,     2,     2,     2,     3,     0"));
+}
+
 }  // namespace

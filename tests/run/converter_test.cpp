@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <locale>
+#include <stdexcept>
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -239,8 +240,23 @@ TEST_F(RunTest, ExceptionLeavesItsPlaceBehind) {
   EXPECT_THROW(m_Converter.Run(m_Input.c_str()), InvalidArgumentException);
   EXPECT_EQ(
       m_Converter.Failure().Describe("model.s2k"),
-      "model.s2k:3: reading table \"PROGRAM CONTROL\": CurrUnits= must name force, length and "
+      "model.s2k:4: reading table \"PROGRAM CONTROL\": CurrUnits= must name force, length and "
       "temperature");
+}
+
+TEST_F(RunTest, ExceptionsOfThePlatformGoToTheHost) {
+  class Throwing : public ScriptedPlatform {
+   public:
+    void ShowMessage(const std::string& /*key*/, const std::string& /*text*/) override {
+      throw std::runtime_error("the window is gone");
+    }
+    void CloseProgress() override { throw std::runtime_error("closed twice"); }
+  };
+  WriteFile(m_Input, kTwoJoints);
+  Throwing platform;
+  CConverter converter(platform);
+  EXPECT_THROW(converter.Run(m_Input.c_str()), std::runtime_error);
+  EXPECT_EQ(converter.Failure().Reason, "the window is gone");
 }
 
 TEST(Units, ForceAndLengthWordsOfTheTarget) {

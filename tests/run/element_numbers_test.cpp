@@ -395,4 +395,18 @@ TABLE:  "FRAME RELEASE ASSIGNMENTS 1 - GENERAL"
                           "\t\t000000,     0,     0,     0,     0,     0,     0,"));
 }
 
+TEST(ElementNumbers, OneSolidLabelWithALetterRenumbersTheFrames) {
+  const ConversionRun run = Convert(R"(
+TABLE:  "CONNECTIVITY - FRAME"
+   Frame=7   JointI=1   JointJ=2
+
+TABLE:  "CONNECTIVITY - SOLID"
+   Solid=S1   Joint1=1   Joint2=2   Joint3=3   Joint4=4   Joint5=5   Joint6=6
+)");
+  EXPECT_THAT(run.Messages,
+              ElementsAre("IDS_S2KV8_ELEM_Renumbering", "IDS_S2KV8_FRAM_LclAx_Not_Convert"));
+  EXPECT_EQ(run.Lines("*ELEMENT").at(0),
+            "\t1,  BEAM,     0,     0,     1,     2,     0\t\t;Frame=7");
+}
+
 }  // namespace

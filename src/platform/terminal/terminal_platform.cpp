@@ -1,7 +1,5 @@
 #include "platform/terminal/terminal_platform.h"
 
-#include "platform/default_platform.h"
-
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -10,6 +8,14 @@
 #include <unistd.h>
 
 namespace s2k2ngt {
+
+std::string Printable(std::string text) {
+  for (char& c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    c = byte < 0x20 || byte == 0x7F ? '?' : c;
+  }
+  return text;
+}
 
 TerminalPlatform::TerminalPlatform() : TerminalPlatform(Options{}) {}
 
@@ -40,15 +46,19 @@ std::optional<std::string> TerminalPlatform::ChooseFile(const FileDialog& /*dial
 void TerminalPlatform::ShowMessage(const std::string& /*key*/, const std::string& text) {
   if (m_Options.Messages) {
     EraseBar();
-    std::cerr << text << '\n';
+    std::cerr << Printable(text) << '\n';
   }
 }
 
-void TerminalPlatform::OpenProgress() { m_BarIsOpen = m_Options.Progress; }
+void TerminalPlatform::OpenProgress() {
+  m_Interrupt.emplace();
+  m_BarIsOpen = m_Options.Progress;
+}
 
 void TerminalPlatform::CloseProgress() {
   EraseBar();
   m_BarIsOpen = false;
+  m_Interrupt.reset();
 }
 
 void TerminalPlatform::SetStatus(const std::string& text) { m_Status = text; }
@@ -71,6 +81,8 @@ void TerminalPlatform::SetPosition(int position) {
   }
 }
 
+bool TerminalPlatform::AskStop() { return WasInterrupted(); }
+
 void TerminalPlatform::DrawBar() {
   constexpr int kWidth = 30;
   const int shown = std::clamp(m_Position, 0, m_Range);
@@ -88,7 +100,5 @@ void TerminalPlatform::EraseBar() {
     m_BarIsDrawn = false;
   }
 }
-
-std::unique_ptr<Platform> MakeDefaultPlatform() { return std::make_unique<TerminalPlatform>(); }
 
 }  // namespace s2k2ngt

@@ -1,13 +1,21 @@
 #pragma once
 
+#include "platform/terminal/interrupt.h"
+
 #include <s2k2ngt/platform.h>
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 namespace s2k2ngt {
 
-/// Shows messages as lines on standard error and progress as a bar, if that is a terminal.
+/// The text with control characters as question marks. Labels come from files of any origin; on a
+/// terminal they must not move the cursor or do worse.
+std::string Printable(std::string text);
+
+/// Shows messages as lines on standard error and progress as a bar, if that is a terminal. Ctrl-C
+/// stops the run while its progress is shown.
 class TerminalPlatform : public Platform {
  public:
   struct Options {
@@ -28,6 +36,7 @@ class TerminalPlatform : public Platform {
   void SetStatus(const std::string& text) override;
   void SetRange(int high) override;
   void SetPosition(int position) override;
+  bool AskStop() override;
 
   /// Takes the bar off the terminal, so that a line can be written in its place.
   void EraseBar();
@@ -36,6 +45,7 @@ class TerminalPlatform : public Platform {
   void DrawBar();
 
   Options m_Options;
+  std::optional<InterruptGuard> m_Interrupt;
   bool m_BarIsOpen = false;
   bool m_BarIsDrawn = false;
   std::string m_Status;
