@@ -75,6 +75,10 @@ class S2K2NGT_API CConverter {
   /// looked for in the whole path, its directories included, as hosts do when they compute it.
   static std::string OutputPath(const std::string& inputPath);
 
+  /// Opens a file in the host's companion editor, ZEdit.exe, as a process of its own. Returns 1
+  /// when it was started and 0 when not. No run calls it; it is there for hosts.
+  static int LaunchEditor(const std::string& path);
+
  private:
   class Impl;
   Platform& m_Platform;
