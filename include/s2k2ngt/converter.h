@@ -1,8 +1,8 @@
 #pragma once
 
-#include "s2k2ngt/exceptions.h"
-#include "s2k2ngt/export.h"
-#include "s2k2ngt/platform.h"
+#include <s2k2ngt/exceptions.h>
+#include <s2k2ngt/export.h>
+#include <s2k2ngt/platform.h>
 
 #include <cstdint>
 #include <memory>

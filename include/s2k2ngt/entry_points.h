@@ -1,6 +1,6 @@
 #pragma once
 
-#include "s2k2ngt/export.h"
+#include <s2k2ngt/export.h>
 
 #include <cstdint>
 #include <string>

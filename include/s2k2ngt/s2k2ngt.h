@@ -14,7 +14,7 @@
 #ifndef S2K2NGT_H
 #define S2K2NGT_H
 
-#include "s2k2ngt/export.h"
+#include <s2k2ngt/export.h>
 
 /* NOLINTBEGIN(modernize-deprecated-headers, modernize-use-using): this is C */
 #include <stddef.h>
