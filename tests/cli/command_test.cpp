@@ -2,6 +2,7 @@
 #include "support/conversion_run.h"
 #include "support/temporary_folder.h"
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -262,6 +263,25 @@ TEST_F(CommandTest, BarIsDrawnOnATerminalAndErasedAgain) {
   EXPECT_THAT(run.Err, HasSubstr("] Reading [s2k] file of SAP2000 V8\x1b[K"));
   EXPECT_THAT(run.Err, HasSubstr("\r\x1b[Ks2k2ngt: tower.s2k: converted to tower.ngt"));
   EXPECT_EQ(JsonLines(run.Out).size(), 1U);
+}
+
+TEST_F(CommandTest, BarIsRedrawnAtMostTwentyTimesASecond) {
+  std::string rows = "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int joint = 1; joint <= 100'000; ++joint) {
+    rows += "   Joint=" + std::to_string(joint) + "   XorR=1   Y=2   Z=3\n";
+  }
+  Write("tower.s2k", FileWith(rows));
+  const auto begin = std::chrono::steady_clock::now();
+  const CommandRun run = RunCommand(
+      {.Words = {S2K2NGT_COMMAND, "tower.s2k"}, .Folder = m_Folder.Path(), .OnTerminal = true});
+  const auto passed = std::chrono::steady_clock::now() - begin;
+  int drawings = 0;
+  for (std::size_t at = run.Err.find("\r["); at != std::string::npos;
+       at = run.Err.find("\r[", at + 1)) {
+    ++drawings;
+  }
+  EXPECT_GE(drawings, 1);
+  EXPECT_LE(drawings, passed / std::chrono::milliseconds(50) + 1);
 }
 
 TEST_F(CommandTest, NoBarIsDrawnElsewhereOrWhenNotWanted) {
