@@ -84,6 +84,22 @@ TEST(AreaSections, OtherTypesOfAShellAreThickPlatesWithAMessage) {
   }
 }
 
+TEST(AreaSections, OneCharacterBeforeTheWordIsEnough) {
+  const ConversionRun run = Convert(R"(
+TABLE:  "AREA SECTION PROPERTIES"
+   Section=SLAB   AreaType=Shell   Type=XThin   Thickness=0.2   BendThick=0.2
+
+TABLE:  "CONNECTIVITY - AREA"
+   Area=1   Joint1=1   Joint2=2   Joint3=4   Joint4=3
+
+TABLE:  "AREA SECTION ASSIGNMENTS"
+   Area=1   Section=SLAB
+)");
+  EXPECT_THAT(run.Lines("*ELEMENT"),
+              ElementsAre("\t1, PLATE,     1,     1,     1,     2,     3,     4,     2"));
+  EXPECT_THAT(run.Messages, ElementsAre("IDS_S2KV8_PLAT_LclAx_Not_Convert"));
+}
+
 TEST(AreaSections, OtherKindsHaveNoTypeAndShowAMessage) {
   const std::vector<Case> cases = {
       {"Plane", "Plane-stress", kNoType}, {"Plane", "Stress", kNoType},
