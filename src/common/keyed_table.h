@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -61,6 +62,11 @@ class CKeyedTable {
     }
     NoteSlotOfNewKey(key);
     m_Records.push_back(std::move(record));
+  }
+
+  /// Stores `record` under the key behind the count of records.
+  void Append(Record record) {
+    Insert(static_cast<std::uint32_t>(m_Records.size()) + 1, std::move(record));
   }
 
   std::size_t Count() const { return m_Records.size(); }
@@ -125,7 +131,9 @@ class CKeyedTable {
     return m_Walk.empty() ? std::nullopt : std::optional<Entry>(AtWalk(m_Walk.size() - 1));
   }
 
-  /// The first entry in walk order whose field `Field` equals `value`.
+  // A search names what it compares: a field of the record, or a function of it.
+
+  /// The first entry in walk order whose `Field` equals `value`.
   template <auto Field, class Value>
   std::optional<Entry> FirstWith(const Value& value) const {
     const auto& index = IndexOf<FirstIndex<Field>>();
@@ -144,7 +152,7 @@ class CKeyedTable {
     return first ? first : LastWalked();
   }
 
-  /// The walk positions, ascending, of all entries whose field `Field` equals `value`.
+  /// The walk positions, ascending, of all entries whose `Field` equals `value`.
   template <auto Field, class Value>
   std::span<const std::uint32_t> AllWith(const Value& value) const {
     const auto& index = IndexOf<GroupIndex<Field>>();
@@ -155,11 +163,22 @@ class CKeyedTable {
     return found->second;
   }
 
+  /// The keys, ascending, of all entries whose `Field` equals `value`.
+  template <auto Field, class Value>
+  std::vector<std::uint32_t> KeysWith(const Value& value) const {
+    std::vector<std::uint32_t> keys;
+    for (const std::uint32_t position : AllWith<Field>(value)) {
+      keys.push_back(AtWalk(position).Key);
+    }
+    std::ranges::sort(keys);
+    return keys;
+  }
+
  private:
   static constexpr std::uint32_t kNoSlot = std::numeric_limits<std::uint32_t>::max();
 
   template <auto Field>
-  using FieldValue = std::remove_cvref_t<decltype(std::declval<Record>().*Field)>;
+  using FieldValue = std::remove_cvref_t<std::invoke_result_t<decltype(Field), const Record&>>;
 
   struct Index {
     virtual ~Index() = default;
@@ -181,7 +200,8 @@ class CKeyedTable {
       }
       for (; Indexed < table.Count(); ++Indexed) {
         const auto slot = static_cast<std::uint32_t>(Indexed);
-        const auto [place, isNew] = Slots.try_emplace(table.m_Records[slot].*Field, slot);
+        const auto [place, isNew] =
+            Slots.try_emplace(std::invoke(Field, table.m_Records[slot]), slot);
         if (!isNew && table.BucketOfSlot(slot) <= table.BucketOfSlot(place->second)) {
           place->second = slot;
         }
@@ -203,7 +223,7 @@ class CKeyedTable {
       table.ComputeWalk();
       Positions.clear();
       for (std::size_t position = 0; position < table.m_Walk.size(); ++position) {
-        Positions[table.AtWalk(position).Value.*Field].push_back(
+        Positions[std::invoke(Field, table.AtWalk(position).Value)].push_back(
             static_cast<std::uint32_t>(position));
       }
       Indexed = table.Count();

@@ -50,4 +50,6 @@ std::string ToUpper(Text text) {
   return upper;
 }
 
+char ToLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 }  // namespace s2k2ngt

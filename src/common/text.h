@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory_resource>
 #include <string>
 #include <string_view>
@@ -11,6 +12,14 @@ namespace s2k2ngt {
 /// both of which live as long as the models that hold the record. Bytes above 127 pass through
 /// unchanged; no character set is interpreted.
 using Text = std::string_view;
+
+/// A label, and what it is one of: an element's family, a nodal temperature's load case, the
+/// pattern of a joint's value.
+struct QualifiedLabel {
+  Text Label;
+  Text Qualifier;
+  bool operator==(const QualifiedLabel&) const = default;
+};
 
 /// Owns the bytes of texts that do not stand in the source file as they are needed: joined rows,
 /// values without their quotes, upper-cased words. Addresses stay valid until the store goes.
@@ -36,5 +45,14 @@ bool IsAllDigits(Text text);
 Text TrimLeft(Text text);
 Text TrimRight(Text text);
 std::string ToUpper(Text text);
+char ToLower(char c);
 
 }  // namespace s2k2ngt
+
+template <>
+struct std::hash<s2k2ngt::QualifiedLabel> {
+  std::size_t operator()(const s2k2ngt::QualifiedLabel& name) const noexcept {
+    const std::hash<s2k2ngt::Text> hashText;
+    return hashText(name.Label) * 31 + hashText(name.Qualifier);
+  }
+};

@@ -67,8 +67,7 @@ void ConvertEndLengths(Conversion& run) {
     if (std::abs(frame.LengthI) + std::abs(frame.LengthJ) <= kTolerance) {
       continue;
     }
-    offsets.Insert(
-        static_cast<std::uint32_t>(offsets.Count()) + 1,
+    offsets.Append(
         {.Label = frame.Frame, .TYPE = "ELEMENT", .RGDXi = frame.LengthI, .RGDXj = frame.LengthJ});
   }
 }
@@ -100,7 +99,7 @@ void ConvertJointOffsets(Conversion& run) {
                               .RGDZj = frame.JtOffsetZJ};
     const auto earlier = offsets.FirstWith<&T_NGT_FROF_D::Label>(frame.Frame);
     if (!earlier) {
-      offsets.Insert(static_cast<std::uint32_t>(offsets.Count()) + 1, offset);
+      offsets.Append(offset);
       continue;
     }
     run.Shown.ShowWith("IDS_S2KV8_OFFSET_REPLACE_GLOBAL", frame.Frame);
@@ -135,14 +134,15 @@ bool WriteReleases(Conversion& run, LineWriter& out) {
   out.WriteLine("*FRAME-RLS    ; Beam End Release\n");
   out.WriteLine("; ELEM_LIST, FLAG-i, Fxi, Fyi, Fzi, Mxi, Myi, Mzi        ; 1st line\n");
   out.WriteLine(";            FLAG-j, Fxj, Fyj, Fzj, Mxj, Myj, Mzj, GROUP ; 2nd line\n");
-  ElementReferences frames(run.Elements, kFrameFamily);
+  ElementReferences elements(run.Elements);
   T_NGT_FRRL_D release;  // a key without a record repeats the record before it
   for (std::uint32_t key = 1; key <= releases.Count(); ++key) {
     release = RecordOr(releases.Find(key), release);
     const auto& atI = release.I.Value;
     const auto& atJ = release.J.Value;
-    out.WriteLine("\t%d, \t%s, %5g, %5g, %5g, %5g, %5g, %5g\n", frames.NumberOf(release.Label),
-                  release.I.Flag, atI[0], atI[1], atI[2], atI[3], atI[4], atI[5]);
+    out.WriteLine("\t%d, \t%s, %5g, %5g, %5g, %5g, %5g, %5g\n",
+                  elements.NumberOf(release.Label, kFrameFamily), release.I.Flag, atI[0], atI[1],
+                  atI[2], atI[3], atI[4], atI[5]);
     out.WriteLine("\t\t%s, %5g, %5g, %5g, %5g, %5g, %5g,\n", release.J.Flag, atJ[0], atJ[1], atJ[2],
                   atJ[3], atJ[4], atJ[5]);
   }
@@ -160,10 +160,10 @@ bool WriteOffsets(Conversion& run, LineWriter& out) {
       "; ELEM_LIST, TYPE, RGDXi, RGDYi, RGDZi, RGDXj, RGDYj, RGDZj, GROUP  ; TYPE=GLOBAL\n");
   out.WriteLine(
       "; ELEM_LIST, TYPE, RGDi, RGDj, GROUP                                ; TYPE=ELEMENT\n");
-  ElementReferences frames(run.Elements, kFrameFamily);
+  ElementReferences elements(run.Elements);
   for (std::uint32_t key = 1; key <= offsets.Count(); ++key) {
     const T_NGT_FROF_D offset = RecordOr(offsets.Find(key), T_NGT_FROF_D{});
-    const std::int32_t iEl = frames.NumberOf(offset.Label);
+    const std::int32_t iEl = elements.NumberOf(offset.Label, kFrameFamily);
     if (offset.TYPE == "ELEMENT") {
       out.WriteLine("\t%d, %5s, %5g, %5g,\n", iEl, offset.TYPE, offset.RGDXi, offset.RGDXj);
     } else if (offset.TYPE == "GLOBAL") {

@@ -17,16 +17,16 @@ bool ElementNumbers::FindElemByLabel(Text label, Text family, std::int32_t& iEl)
   if (m_ElemMap.Empty()) {
     return true;
   }
-  const auto element = m_ElemMap.FirstWith<&MAP_ELEM::Name>(ElementName{label, family});
+  const auto element = m_ElemMap.FirstWith<&MAP_ELEM::Name>(QualifiedLabel{label, family});
   if (element) {
     iEl = element->Value.iEl;
   }
   return element.has_value();
 }
 
-std::int32_t ElementReferences::NumberOf(Text label) {
+std::int32_t ElementReferences::NumberOf(Text label, Text family) {
   if (m_Numbers.Renumbered()) {
-    m_Numbers.FindElemByLabel(label, m_Family, m_Number);
+    m_Numbers.FindElemByLabel(label, family, m_Number);
   } else {
     m_Number = ParseInteger(label);
   }

@@ -4,28 +4,7 @@
 #include "common/text.h"
 #include "target/ngt_model.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <functional>
-
-namespace s2k2ngt {
-
-/// What tells an element of the source file from all others: each family has labels of its own.
-struct ElementName {
-  Text Label;
-  Text Family;  // "FRAME", "AREA" or "SOLID"
-  bool operator==(const ElementName&) const = default;
-};
-
-}  // namespace s2k2ngt
-
-template <>
-struct std::hash<s2k2ngt::ElementName> {
-  std::size_t operator()(const s2k2ngt::ElementName& name) const noexcept {
-    // Few families share a label, so that their names may share a hash.
-    return std::hash<s2k2ngt::Text>()(name.Label) ^ name.Family.size();
-  }
-};
 
 namespace s2k2ngt {
 
@@ -33,7 +12,7 @@ namespace s2k2ngt {
 struct MAP_ELEM {
   std::uint32_t iKey = 0;
   std::int32_t iEl = 0;
-  ElementName Name;
+  QualifiedLabel Name;  // its label and its family
 };
 
 inline constexpr Text kFrameFamily = "FRAME";
@@ -73,14 +52,12 @@ class ElementNumbers {
 /// before it, 0 before the first.
 class ElementReferences {
  public:
-  ElementReferences(const ElementNumbers& numbers, Text family)
-      : m_Numbers(numbers), m_Family(family) {}
+  explicit ElementReferences(const ElementNumbers& numbers) : m_Numbers(numbers) {}
 
-  std::int32_t NumberOf(Text label);
+  std::int32_t NumberOf(Text label, Text family);
 
  private:
   const ElementNumbers& m_Numbers;
-  Text m_Family;
   std::int32_t m_Number = 0;
 };
 
