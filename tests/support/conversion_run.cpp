@@ -55,15 +55,47 @@ std::string ConversionRun::Section(std::string_view command) const {
   return {};
 }
 
-std::vector<std::string> ConversionRun::Lines(std::string_view command) const {
+namespace {
+
+std::vector<std::string> DataLines(const std::string& text) {
   std::vector<std::string> lines;
-  std::istringstream section(Section(command));
-  for (std::string line; std::getline(section, line);) {
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
     if (line.starts_with('\t')) {
       lines.push_back(line);
     }
   }
   return lines;
+}
+
+}  // namespace
+
+std::vector<std::string> ConversionRun::Lines(std::string_view command) const {
+  return DataLines(Section(command));
+}
+
+std::string ConversionRun::LoadBlock(std::string_view loadCase, std::string_view command) const {
+  const std::string padding(std::max<std::size_t>(loadCase.size(), 10) - loadCase.size(), ' ');
+  const std::string opening = "*USE-STLD, " + padding + std::string(loadCase) + "\n\n";
+  for (std::size_t begin = Output.find(opening); begin != std::string::npos;
+       begin = Output.find(opening, begin + 1)) {
+    std::string_view head = std::string_view(Output).substr(begin + opening.size());
+    if (head.starts_with("; ")) {
+      head.remove_prefix(2);  // *SELFWEIGHT has no line of its own, only its comment
+    }
+    if (head.starts_with(command)) {
+      const std::string closing =
+          "\n;End of data for load case [" + std::string(loadCase) + "]\n\n";
+      const std::size_t end = Output.find(closing, begin);
+      return Output.substr(begin, end == std::string::npos ? end : end + closing.size() - begin);
+    }
+  }
+  return {};
+}
+
+std::vector<std::string> ConversionRun::LoadLines(std::string_view loadCase,
+                                                  std::string_view command) const {
+  return DataLines(LoadBlock(loadCase, command));
 }
 
 ConversionRun ConvertBytes(const std::string& bytes) {

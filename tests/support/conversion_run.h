@@ -61,6 +61,12 @@ struct ConversionRun {
   std::string Section(std::string_view command) const;
   /// The data lines of a section: those that begin with a tab.
   std::vector<std::string> Lines(std::string_view command) const;
+
+  /// What a command writes for a load case, from *USE-STLD to the closing line and the newline
+  /// behind it. Empty when it writes nothing for the load case.
+  std::string LoadBlock(std::string_view loadCase, std::string_view command) const;
+  /// The data lines of that.
+  std::vector<std::string> LoadLines(std::string_view loadCase, std::string_view command) const;
 };
 
 /// Runs the conversion over these bytes, as the file "model.s2k" of a folder of its own.
