@@ -10,6 +10,13 @@
 
 namespace s2k2ngt {
 
+// ---- Source rows ----
+
+T_CNFR_D ConnectivityOrLast(CModel& model, Text frame) {
+  const auto found = model.Rows<T_CNFR_D>().FirstOrLastWith<&T_CNFR_D::Frame>(frame);
+  return found ? found->Value : T_CNFR_D{};
+}
+
 // ---- Conversion ----
 
 namespace {

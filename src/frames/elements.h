@@ -26,6 +26,10 @@ inline constexpr std::tuple kRowKeys<T_CNFR_D>{
     Key{"Frame=", &T_CNFR_D::Frame}, Key{"JointI=", &T_CNFR_D::JointI},
     Key{"JointJ=", &T_CNFR_D::JointJ}, Key{"Length=", &T_CNFR_D::Length}};
 
+/// The connectivity of a frame. Meant so: a frame that is not there has that of the last frame of
+/// the walk, and in a model without frames an empty one.
+T_CNFR_D ConnectivityOrLast(CModel& model, Text frame);
+
 /// Section assignment of a frame.
 struct T_FRSC_D {
   static constexpr Text kTable = "T_FRSC_D";

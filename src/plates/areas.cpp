@@ -11,6 +11,10 @@
 
 namespace s2k2ngt {
 
+// ---- Source rows ----
+
+bool IsTopOrBottom(Text face) { return face == "5" || face == "6"; }
+
 // ---- Conversion ----
 
 namespace {

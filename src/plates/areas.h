@@ -20,6 +20,7 @@ struct T_CNAR_D {
   Text Joint2;
   Text Joint3;
   Text Joint4;  // empty on a row of three joints
+  double AreaArea = 0.0;
 };
 
 template <>
@@ -28,7 +29,7 @@ inline constexpr std::tuple kRowKeys<T_CNAR_D>{Key{"Area=", &T_CNAR_D::Area},
                                                Key{"Joint2=", &T_CNAR_D::Joint2},
                                                Key{"Joint3=", &T_CNAR_D::Joint3},
                                                Key{"Joint4=", &T_CNAR_D::Joint4},
-                                               Unread{"AreaArea="},
+                                               Key{"AreaArea=", &T_CNAR_D::AreaArea},
                                                Unread{"Volume="}};
 
 /// Section assignment of an area.
@@ -84,6 +85,10 @@ struct T_ALTP_D {
   Text Area;
   double Angle = 0.0;  // degrees
 };
+
+/// True for the bottom "5" and the top "6" of an area, which loads and springs may stand on; the
+/// other faces are its edges.
+bool IsTopOrBottom(Text face);
 
 // ---- Target records ----
 

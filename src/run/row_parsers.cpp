@@ -3,10 +3,16 @@
 #include "analysis/spectrum.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
+#include "frames/lumping.h"
 #include "frames/materials.h"
 #include "frames/sections.h"
+#include "joints/constraints.h"
+#include "joints/local_axes.h"
+#include "joints/masses.h"
 #include "joints/nodes.h"
+#include "joints/supports.h"
 #include "plates/areas.h"
+#include "plates/lumping.h"
 #include "plates/solids.h"
 #include "source/single_records.h"
 
@@ -32,6 +38,22 @@ constexpr std::array kRowParsers = std::to_array<Entry>({
     {kCoordinateSystem, StoreCoordinateSystem},
     {kUnits, StoreUnits},
     {T_JTCD_D::kTable, StoreJoints},
+    Rows<T_JTRA_D>(),
+    Rows<T_JTUC_D>(),
+    Rows<T_JTSC_D>(),
+    Rows<T_JTTP_D>(),
+    Rows<T_JTAV_D>(),
+    Rows<T_JTMA_D>(),
+    Rows<T_JTCA_D>(),
+    Rows<T_CDBM_D>(),
+    Rows<T_CDDP_D>(),
+    Rows<T_CDPL_D>(),
+    Rows<T_CDRD_D>(),
+    Rows<T_CDBD_D>(),
+    Rows<T_CDEL_D>(),
+    Rows<T_CDLN_D>(),
+    Rows<T_CDWL_D>(),
+    Rows<T_CDLC_D>(),
     Rows<T_CNFR_D>(),
     Rows<T_FRSC_D>(),
     Rows<T_FRTP_D>(),
@@ -44,10 +66,14 @@ constexpr std::array kRowParsers = std::to_array<Entry>({
     Rows<T_MTAD_D>(),
     Rows<T_FRSG_D>(),
     Rows<T_FSNP_D>(),
+    Rows<T_FRSA_D>(),
+    Rows<T_FRAD_D>(),
     Rows<T_CNAR_D>(),
     Rows<T_ASCA_D>(),
     Rows<T_ASPR_D>(),
     Rows<T_ALGR_D>(),
+    Rows<T_ASPA_D>(),
+    Rows<T_ADMA_D>(),
     Rows<T_CNSL_D>(),
     Rows<T_FRSB_D>(),
     Rows<T_FRSF_D>(),

@@ -5,7 +5,11 @@
 #include "frames/materials.h"
 #include "frames/modifiers.h"
 #include "frames/sections.h"
+#include "joints/constraints.h"
+#include "joints/local_axes.h"
+#include "joints/masses.h"
 #include "joints/nodes.h"
+#include "joints/supports.h"
 #include "plates/areas.h"
 #include "run/element_section.h"
 #include "target/head.h"
@@ -22,24 +26,24 @@ const std::array<Section, 37> kSections = {{
     {"*VERSION, *UNIT", WriteVersionAndUnit},
     {"*STRUCTYPE", WriteStructureType},
     {"*NODE", WriteNodes},
-    {"*LOCALAXIS", NotWrittenYet},
+    {"*LOCALAXIS", WriteLocalAxes},
     {"*ELEMENT", WriteElements},
     {"*MATERIAL", WriteMaterials},
     {"*SECTION", WriteSections},
     {"*SECT-SCALE", WriteSectionScaleFactors},
     {"*THICKNESS", WriteThicknesses},
-    {"*CONSTRAINT", NotWrittenYet},
-    {"*SPRING", NotWrittenYet},
-    {"*GSPRING, *GSPRTYPE", NotWrittenYet},
+    {"*CONSTRAINT", WriteSupports},
+    {"*SPRING", WritePointSprings},
+    {"*GSPRING, *GSPRTYPE", WriteGeneralSprings},
     {"*STLDCASE", NotWrittenYet},
-    {"*NODALMASS", NotWrittenYet},
+    {"*NODALMASS", WriteMasses},
     {"*OFFSET", WriteOffsets},
     {"*FRAME-RLS", WriteReleases},
     {"*INIFORCE", NotWrittenYet},
     {"*ELASTICLINK", NotWrittenYet},
     {"*NL-PROP", NotWrittenYet},
     {"*NL-LINK", NotWrittenYet},
-    {"*RIGIDLINK", NotWrittenYet},
+    {"*RIGIDLINK", WriteRigidLinks},
     {"*LINELANE", NotWrittenYet},
     {"*VEHICLE", NotWrittenYet},
     {"*VCLASS", NotWrittenYet},

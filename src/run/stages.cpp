@@ -3,10 +3,16 @@
 #include "analysis/spectrum.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
+#include "frames/lumping.h"
 #include "frames/materials.h"
 #include "frames/sections.h"
+#include "joints/constraints.h"
+#include "joints/local_axes.h"
+#include "joints/masses.h"
 #include "joints/nodes.h"
+#include "joints/supports.h"
 #include "plates/areas.h"
+#include "plates/lumping.h"
 #include "plates/solids.h"
 
 #include <span>
@@ -27,13 +33,13 @@ bool RunGroup(std::span<const Stage> steps, Conversion& run) {
 
 constexpr std::array kJointSteps = std::to_array<Stage>({
     {"coordinates", ConvertJoints},
-    {"restraints", NotConvertedYet},
-    {"typical local axes", NotConvertedYet},
-    {"uncoupled springs", NotConvertedYet},
-    {"coupled springs", NotConvertedYet},
+    {"restraints", ConvertRestraints},
+    {"typical local axes", ConvertLocalAxes},
+    {"uncoupled springs", ConvertUncoupledSprings},
+    {"coupled springs", ConvertCoupledSprings},
     {"joint forces", NotConvertedYet},
-    {"joint masses", NotConvertedYet},
-    {"constraint assignments", NotConvertedYet},
+    {"joint masses", ConvertJointMasses},
+    {"constraint assignments", ConvertConstraints},
     {"ground displacements", NotConvertedYet},
     {"node map", MapNodes},
 });
@@ -48,8 +54,8 @@ constexpr std::array kFrameSteps = std::to_array<Stage>({
     {"P-Delta force", NotConvertedYet},
     {"temperature loads", NotConvertedYet},
     {"insertion point and offset", ConvertOffsets},
-    {"springs", NotConvertedYet},
-    {"added mass", NotConvertedYet},
+    {"springs", ConvertFrameSprings},
+    {"added mass", ConvertFrameMasses},
 });
 
 constexpr std::array kAreaSteps = std::to_array<Stage>({
@@ -58,8 +64,8 @@ constexpr std::array kAreaSteps = std::to_array<Stage>({
     {"uniform loads", NotConvertedYet},
     {"surface pressure loads", NotConvertedYet},
     {"gravity loads", CheckAreaGravityLoads},
-    {"added mass", NotConvertedYet},
-    {"springs", NotConvertedYet},
+    {"added mass", ConvertAreaMasses},
+    {"springs", ConvertAreaSprings},
     {"temperature loads", NotConvertedYet},
 });
 

@@ -20,6 +20,16 @@ struct DeferredWarnings {
   bool bMaterialAnisotropic = false;
   bool bSectionNotTranslated = false;
   bool bAreaModifiersLost = false;
+  bool bSolidLocalAxesLost = false;
+  bool bSolidGravityLost =
+      false;  ///< no writer shows it: gravity loads of solids vanish in silence
+  bool bCoupledSpringLost = false;
+  bool bFrameSpringToNodes = false;
+  bool bAreaSpringToNodes = false;
+  bool bAreaSpringLost = false;
+  bool bSingleJointLink = false;
+  bool bPlatePressureLost = false;
+  bool bLoadCaseLost = false;  ///< no stage sets it yet; the test of its writer is there
 };
 
 /// All that a stage works on, and a writer with it. It lives as long as the run.

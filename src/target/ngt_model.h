@@ -69,6 +69,10 @@ class CNgtModel {
   bool bSectionStartMissing = false;
   bool bSectionEndMissing = false;
   bool bAreaPropertyLost = false;
+  bool bConstraintAutoAxis = false;
+  bool bConstraintLocal = false;
+  bool bLinkMultiLinearLost = false;
+  bool bLinkKinematicLost = false;
 
  private:
   RecordTables m_Tables;

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+namespace s2k2ngt {
+
+// What the source spreads along a frame and the target has at nodes alone: springs and added
+// masses. Half of each goes to either end.
+
+// ---- Source rows ----
+
+/// A spring along a frame.
+struct T_FRSA_D {
+  static constexpr Text kTable = "T_FRSA_D";
+  Text Frame;
+  Text Dir;                // local axis "1", "2" or "3"
+  double Stiffness = 0.0;  // per length
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRSA_D>{Key{"Frame=", &T_FRSA_D::Frame},
+                                               Key{"Dir=", &T_FRSA_D::Dir},
+                                               Key{"Stiffness=", &T_FRSA_D::Stiffness}};
+
+/// Added mass of a frame.
+struct T_FRAD_D {
+  static constexpr Text kTable = "T_FRAD_D";
+  Text Frame;
+  double MassPerLen = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRAD_D>{Key{"Frame=", &T_FRAD_D::Frame},
+                                               Key{"MassPerLen=", &T_FRAD_D::MassPerLen}};
+
+// ---- Conversion ----
+
+/// Springs along frames into point springs.
+bool ConvertFrameSprings(Conversion& run);
+
+/// Added masses of frames into those of their end nodes.
+bool ConvertFrameMasses(Conversion& run);
+
+}  // namespace s2k2ngt

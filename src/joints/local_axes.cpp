@@ -1,0 +1,303 @@
+#include "joints/local_axes.h"
+
+#include "joints/nodes.h"
+
+#include <cmath>
+#include <optional>
+#include <set>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+Vector Cross(const Vector& a, const Vector& b) {
+  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+
+double SquaredLength(const Vector& v) { return v[0] * v[0] + v[1] * v[1] + v[2] * v[2]; }
+
+Vector UnitVector(const Vector& v, double squaredLength) {
+  const double length = std::sqrt(squaredLength);
+  return {v[0] / length, v[1] / length, v[2] / length};
+}
+
+constexpr Matrix kIdentity = {{{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}};
+
+Matrix Transposed(const Matrix& m) {
+  return {{{m[0][0], m[1][0], m[2][0]}, {m[0][1], m[1][1], m[2][1]}, {m[0][2], m[1][2], m[2][2]}}};
+}
+
+Vector Product(const Matrix& m, const Vector& v) {
+  const auto row = [&v](const Vector& r) { return r[0] * v[0] + r[1] * v[1] + r[2] * v[2]; };
+  return {row(m[0]), row(m[1]), row(m[2])};
+}
+
+Matrix Product(const Matrix& a, const Matrix& b) {
+  const Matrix columns = Transposed(b);
+  return Transposed({Product(a, columns[0]), Product(a, columns[1]), Product(a, columns[2])});
+}
+
+Matrix RotationAboutX(double angle) {
+  const double c = std::cos(angle);
+  const double s = std::sin(angle);
+  return {{{1.0, 0.0, 0.0}, {0.0, c, -s}, {0.0, s, c}}};
+}
+
+Matrix RotationAboutY(double angle) {
+  const double c = std::cos(angle);
+  const double s = std::sin(angle);
+  return {{{c, 0.0, s}, {0.0, 1.0, 0.0}, {-s, 0.0, c}}};
+}
+
+Matrix RotationAboutZ(double angle) {
+  const double c = std::cos(angle);
+  const double s = std::sin(angle);
+  return {{{c, -s, 0.0}, {s, c, 0.0}, {0.0, 0.0, 1.0}}};
+}
+
+/// Rotation about X first, then about Y, then about Z.
+Matrix MatrixFromAngles(const T_NGT_LOCL_D& axes) {
+  // Pi cut behind its sixth decimal, over 180; kept so, as the turned values depend on it.
+  constexpr double kRadians = 0.01745328888888889;
+  std::optional<Matrix> product;
+  const auto multiply = [&product](double degrees, Matrix (*rotation)(double)) {
+    const double angle = degrees * kRadians;
+    if (std::abs(angle) <= kTolerance) {
+      return;
+    }
+    product = product ? Product(*product, rotation(angle)) : rotation(angle);
+  };
+  multiply(axes.ANGLE_z, RotationAboutZ);
+  multiply(axes.ANGLE_y, RotationAboutY);
+  multiply(axes.ANGLE_x, RotationAboutX);
+  return product.value_or(kIdentity);
+}
+
+/// The unit vector of a direction such as "-Y"; zero for any other text.
+Vector DirectionVector(Text direction) {
+  constexpr std::array<std::pair<Text, Vector>, 6> kDirections = {{{"X", {1.0, 0.0, 0.0}},
+                                                                   {"Y", {0.0, 1.0, 0.0}},
+                                                                   {"Z", {0.0, 0.0, 1.0}},
+                                                                   {"-X", {-1.0, 0.0, 0.0}},
+                                                                   {"-Y", {0.0, -1.0, 0.0}},
+                                                                   {"-Z", {0.0, 0.0, -1.0}}}};
+  for (const auto& [name, vector] : kDirections) {
+    if (name == direction) {
+      return vector;
+    }
+  }
+  return {};
+}
+
+/// What an advanced axes row says of the axis, or of the vector in the plane.
+struct VectorGiven {
+  Text Option;
+  Text Direction;
+  Text Joint1;
+  Text Joint2;
+  Vector User;
+};
+
+Vector Evaluate(CModel& model, const VectorGiven& given) {
+  if (given.Option == "Two Joints") {
+    const Point from = GlobalCoordinates(model, given.Joint1);
+    const Point to = GlobalCoordinates(model, given.Joint2);
+    return {to.X - from.X, to.Y - from.Y, to.Z - from.Z};
+  }
+  if (given.Option == "User Vector") {
+    return given.User;
+  }
+  return DirectionVector(given.Direction);
+}
+
+/// Sets the first two of the node's vectors from the axis and the vector in the plane.
+void SetVectors(Text localPlane, const Vector& axis, const Vector& plane, T_NGT_LOCL_D& axes) {
+  if (localPlane == "12") {
+    axes.V1 = axis;
+    axes.V2 = Cross(Cross(axis, plane), axis);
+  } else if (localPlane == "13") {
+    axes.V1 = axis;
+    axes.V2 = Cross(plane, axis);
+  } else if (localPlane == "21") {
+    axes.V1 = Cross(axis, Cross(plane, axis));
+    axes.V2 = axis;
+  } else if (localPlane == "23") {
+    axes.V1 = Cross(axis, plane);
+    axes.V2 = axis;
+  } else if (localPlane == "31") {
+    axes.V1 = Cross(axis, Cross(plane, axis));
+    axes.V2 = Cross(axis, plane);
+  } else if (localPlane == "32") {
+    axes.V1 = Cross(plane, axis);
+    axes.V2 = Cross(Cross(axis, plane), axis);
+  }
+}
+
+/// The matrix whose columns are the axes of the two vectors; an identity of no joint when they span
+/// no plane.
+T_NGT_LCMX_D MatrixFromVectors(const T_NGT_LOCL_D& axes) {
+  const Vector v3 = Cross(axes.V1, axes.V2);
+  const double length1 = SquaredLength(axes.V1);
+  const double length2 = SquaredLength(axes.V2);
+  const double length3 = SquaredLength(v3);
+  if (length1 < kTolerance || length2 < kTolerance || length3 < kTolerance) {
+    return {.Label = {}, .M = kIdentity};
+  }
+  return {.Label = axes.Label,
+          .M = Transposed({UnitVector(axes.V1, length1), UnitVector(axes.V2, length2),
+                           UnitVector(v3, length3)})};
+}
+
+/// The rows of the matrix table while they are made: appended, and found again by their joint to be
+/// written over. A row that has lost its joint is no longer found by it.
+class MatrixRows {
+ public:
+  void Append(const T_NGT_LCMX_D& matrix) {
+    m_Rows.push_back(matrix);
+    m_RowsOfJoint[matrix.Label].insert(PlaceOf(m_Rows.size()));
+  }
+
+  /// Writes over the row of the joint that a walk over the table meets first, if there is one.
+  void ReplaceOrAppend(Text joint, const T_NGT_LCMX_D& matrix) {
+    std::set<WalkPlace>& places = m_RowsOfJoint[joint];
+    if (places.empty()) {
+      Append(matrix);
+      return;
+    }
+    const WalkPlace first = *places.begin();
+    m_Rows[first.Key() - 1] = matrix;
+    if (matrix.Label != joint) {
+      places.erase(places.begin());
+      m_RowsOfJoint[matrix.Label].insert(first);
+    }
+  }
+
+  void Store(CNgtModel& target) const {
+    std::uint32_t key = 0;
+    for (const T_NGT_LCMX_D& matrix : m_Rows) {
+      target.Add(++key, matrix);
+    }
+  }
+
+ private:
+  /// Orders rows as a walk meets them: by bucket, and within it the newest first.
+  struct WalkPlace {
+    std::uint32_t Bucket;
+    std::int64_t NegatedKey;
+    auto operator<=>(const WalkPlace&) const = default;
+    std::size_t Key() const { return static_cast<std::size_t>(-NegatedKey); }
+  };
+  static WalkPlace PlaceOf(std::size_t key) {
+    return {BucketOf(static_cast<std::uint32_t>(key), T_NGT_LCMX_D::kBuckets),
+            -static_cast<std::int64_t>(key)};
+  }
+
+  std::vector<T_NGT_LCMX_D> m_Rows;  // by key, from 1
+  std::unordered_map<Text, std::set<WalkPlace>> m_RowsOfJoint;
+};
+
+void ConvertAdvancedAxes(CModel& model, T_NGT_LOCL_D& axes, MatrixRows& matrices) {
+  const auto found = model.Rows<T_JTAV_D>().FirstWith<&T_JTAV_D::Joint>(axes.Label);
+  if (!found) {
+    return;
+  }
+  const T_JTAV_D& row = found->Value;
+  const Vector axis = Evaluate(model, {.Option = row.AxOption1,
+                                       .Direction = row.AxCoordDir,
+                                       .Joint1 = row.AxVecJt1,
+                                       .Joint2 = row.AxVecJt2,
+                                       .User = {row.AxVecX, row.AxVecY, row.AxVecZ}});
+  // Of the two directions the one that does not repeat the axis.
+  const Text planeDirection = row.CoordDir1 == row.AxCoordDir ? row.CoordDir2 : row.CoordDir1;
+  const Vector plane = Evaluate(model, {.Option = row.PlOption1,
+                                        .Direction = planeDirection,
+                                        .Joint1 = row.PlVecJt1,
+                                        .Joint2 = row.PlVecJt2,
+                                        .User = {row.PlVecX, row.PlVecY, row.PlVecZ}});
+  SetVectors(row.LocalPlane, axis, plane, axes);
+  axes.iMETHOD = 3;
+  matrices.ReplaceOrAppend(axes.Label, MatrixFromVectors(axes));
+}
+
+}  // namespace
+
+bool ConvertLocalAxes(Conversion& run) {
+  MatrixRows matrices;
+  for (const auto [key, joint] : run.Source.Rows<T_JTTP_D>().Walk()) {
+    // The source names its rotations from the last to the first.
+    T_NGT_LOCL_D axes{.Label = joint.Joint,
+                      .ANGLE_x = joint.AngleC,
+                      .ANGLE_y = joint.AngleB,
+                      .ANGLE_z = joint.AngleA};
+    if (std::abs(axes.ANGLE_x) + std::abs(axes.ANGLE_y) + std::abs(axes.ANGLE_z) > kTolerance) {
+      matrices.Append({axes.Label, MatrixFromAngles(axes)});
+    }
+    if (joint.AdvanceAxes) {
+      ConvertAdvancedAxes(run.Source, axes, matrices);
+    }
+    run.Target.Add(key, axes);
+  }
+  matrices.Store(run.Target);
+  return true;
+}
+
+bool HasAxesMatrix(CNgtModel& target, Text joint) {
+  return target.Table<T_NGT_LCMX_D>().FirstWith<&T_NGT_LCMX_D::Label>(joint).has_value();
+}
+
+namespace {
+
+double Cleaned(double value) { return std::abs(value) < 1e-05 ? 0.0 : value; }
+
+SixComponents Turn(const Matrix& m, const SixComponents& v) {
+  const Vector first = Product(m, Vector{v[0], v[1], v[2]});
+  const Vector second = Product(m, Vector{v[3], v[4], v[5]});
+  return {Cleaned(first[0]),  Cleaned(first[1]),  Cleaned(first[2]),
+          Cleaned(second[0]), Cleaned(second[1]), Cleaned(second[2])};
+}
+
+}  // namespace
+
+SixComponents TurnToGlobal(CNgtModel& target, Text joint, const SixComponents& local) {
+  const auto axes = target.Table<T_NGT_LCMX_D>().FirstWith<&T_NGT_LCMX_D::Label>(joint);
+  return axes ? Turn(axes->Value.M, local) : local;
+}
+
+SixComponents TurnToLocal(CNgtModel& target, Text joint, const SixComponents& global) {
+  const auto axes = target.Table<T_NGT_LCMX_D>().FirstWith<&T_NGT_LCMX_D::Label>(joint);
+  return axes ? Turn(Transposed(axes->Value.M), global) : global;
+}
+
+// ---- Output ----
+
+bool WriteLocalAxes(Conversion& run, LineWriter& out) {
+  const auto& nodes = run.Target.Table<T_NGT_LOCL_D>();
+  if (nodes.Empty()) {
+    return true;
+  }
+  out.WriteLine("%s\n", "*LOCALAXIS    ; Node Local Axis");
+  out.WriteLine("; NODE_LIST, iMETHOD, ANGLE-x, ANGLE-y, ANGLE-z                    ; iMETHOD=1\n");
+  out.WriteLine("; NODE_LIST, iMETHOD, P0X, P0Y, P0Z, P1X, P1Y, P1Z, P2X, P2Y, P2Z  ; iMETHOD=2\n");
+  out.WriteLine("; NODE_LIST, iMETHOD, V1X, V1Y, V1Z, V2X, V2Y, V2Z                 ; iMETHOD=3\n");
+  for (std::uint32_t key = 1; key <= nodes.Count(); ++key) {
+    const T_NGT_LOCL_D axes = RecordOr(nodes.Find(key), T_NGT_LOCL_D{});
+    const std::int32_t iNode = run.Target.NodeNumber(axes.Label);
+    if (axes.iMETHOD == 1) {
+      out.WriteLine("\t%d, %5d, %5g, %5g, %5g\n", iNode, axes.iMETHOD, axes.ANGLE_x, axes.ANGLE_y,
+                    axes.ANGLE_z);
+    } else if (axes.iMETHOD == 3) {
+      const auto& [v1, v2] = std::pair(axes.V1, axes.V2);
+      out.WriteLine("\t%d, %5d, %5g, %5g, %5g, %5g, %5g, %5g\n", iNode, axes.iMETHOD, v1[0], v1[1],
+                    v1[2], v2[0], v2[1], v2[2]);
+    }
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+}  // namespace s2k2ngt

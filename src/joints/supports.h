@@ -1,0 +1,140 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+#include <array>
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// Restraints of a joint.
+struct T_JTRA_D {
+  static constexpr Text kTable = "T_JTRA_D";
+  Text Joint;
+  bool U1 = false;
+  bool U2 = false;
+  bool U3 = false;
+  bool R1 = false;
+  bool R2 = false;
+  bool R3 = false;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_JTRA_D>{
+    Key{"Joint=", &T_JTRA_D::Joint}, Key{"U1=", &T_JTRA_D::U1}, Key{"U2=", &T_JTRA_D::U2},
+    Key{"U3=", &T_JTRA_D::U3},       Key{"R1=", &T_JTRA_D::R1}, Key{"R2=", &T_JTRA_D::R2},
+    Key{"R3=", &T_JTRA_D::R3}};
+
+/// Uncoupled springs of a joint.
+struct T_JTUC_D {
+  static constexpr Text kTable = "T_JTUC_D";
+  Text Joint;
+  Text CoordSys;
+  double U1 = 0.0;
+  double U2 = 0.0;
+  double U3 = 0.0;
+  double R1 = 0.0;
+  double R2 = 0.0;
+  double R3 = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_JTUC_D>{
+    Key{"Joint=", &T_JTUC_D::Joint}, Key{"CoordSys=", &T_JTUC_D::CoordSys},
+    Key{"U1=", &T_JTUC_D::U1},       Key{"U2=", &T_JTUC_D::U2},
+    Key{"U3=", &T_JTUC_D::U3},       Key{"R1=", &T_JTUC_D::R1},
+    Key{"R2=", &T_JTUC_D::R2},       Key{"R3=", &T_JTUC_D::R3}};
+
+/// Coupled springs of a joint: the upper triangle of their matrix. The couplings of rotations with
+/// each other are not read.
+struct T_JTSC_D {
+  static constexpr Text kTable = "T_JTSC_D";
+  Text Joint;
+  Text CoordSys;
+  double U1 = 0.0;
+  double U1U2 = 0.0;
+  double U2 = 0.0;
+  double U1U3 = 0.0;
+  double U2U3 = 0.0;
+  double U3 = 0.0;
+  double U1R1 = 0.0;
+  double U2R1 = 0.0;
+  double U3R1 = 0.0;
+  double R1 = 0.0;
+  double U1R2 = 0.0;
+  double U2R2 = 0.0;
+  double U3R2 = 0.0;
+  double R2 = 0.0;
+  double U1R3 = 0.0;
+  double U2R3 = 0.0;
+  double U3R3 = 0.0;
+  double R3 = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_JTSC_D>{
+    Key{"Joint=", &T_JTSC_D::Joint}, Key{"CoordSys=", &T_JTSC_D::CoordSys},
+    Key{"U1=", &T_JTSC_D::U1},       Key{"U1U2=", &T_JTSC_D::U1U2},
+    Key{"U2=", &T_JTSC_D::U2},       Key{"U1U3=", &T_JTSC_D::U1U3},
+    Key{"U2U3=", &T_JTSC_D::U2U3},   Key{"U3=", &T_JTSC_D::U3},
+    Key{"U1R1=", &T_JTSC_D::U1R1},   Key{"U2R1=", &T_JTSC_D::U2R1},
+    Key{"U3R1=", &T_JTSC_D::U3R1},   Key{"R1=", &T_JTSC_D::R1},
+    Key{"U1R2=", &T_JTSC_D::U1R2},   Key{"U2R2=", &T_JTSC_D::U2R2},
+    Key{"U3R2=", &T_JTSC_D::U3R2},   Key{"R2=", &T_JTSC_D::R2},
+    Key{"U1R3=", &T_JTSC_D::U1R3},   Key{"U2R3=", &T_JTSC_D::U2R3},
+    Key{"U3R3=", &T_JTSC_D::U3R3},   Key{"R3=", &T_JTSC_D::R3}};
+
+// ---- Target records ----
+
+/// A support.
+struct T_NGT_BNDR_D {
+  Text NODE;                    // joint label
+  std::array<char, 6> CONST{};  // "1" for restrained and "0" for free
+};
+
+/// A point spring. Those along frames and on areas name all their joints in one text, and this is
+/// meant: with joint labels of digits the number is that of the first joint, which takes it all;
+/// with other labels it is 0.
+struct T_NGT_NSPR_D {
+  Text NODE;
+  double SDx = 0.0;
+  double SDy = 0.0;
+  double SDz = 0.0;
+  double SRx = 0.0;
+  double SRy = 0.0;
+  double SRz = 0.0;
+};
+
+/// A general spring: the upper triangle of its matrix, column by column.
+struct T_NGT_GSPR_D {
+  Text NODE;  // joint label
+  Text TYPE_NAME;
+  std::array<double, 21> K{};
+};
+
+// ---- Conversion ----
+
+bool ConvertRestraints(Conversion& run);
+
+/// Springs of global directions go over along the joint's axes.
+bool ConvertUncoupledSprings(Conversion& run);
+
+/// Coupled springs of global directions at a joint with axes of its own are lost.
+bool ConvertCoupledSprings(Conversion& run);
+
+// ---- Output ----
+
+/// Writes *CONSTRAINT.
+bool WriteSupports(Conversion& run, LineWriter& out);
+
+/// Writes *SPRING.
+bool WritePointSprings(Conversion& run, LineWriter& out);
+
+/// Writes *GSPRING and *GSPRTYPE.
+bool WriteGeneralSprings(Conversion& run, LineWriter& out);
+
+}  // namespace s2k2ngt
