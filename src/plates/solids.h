@@ -1,25 +1,122 @@
 #pragma once
 
 #include "common/text.h"
+#include "source/model.h"
 #include "source/row_grammar.h"
 #include "target/conversion.h"
+
+#include <array>
+#include <cstdint>
 
 namespace s2k2ngt {
 
 // ---- Source rows ----
 
-/// Connectivity of a solid. So far its label alone is read.
+/// Connectivity of a solid. A wedge names no joints 7 and 8.
 struct T_CNSL_D {
   static constexpr Text kTable = "T_CNSL_D";
   Text Solid;
+  Text Joint1;
+  Text Joint2;
+  Text Joint3;
+  Text Joint4;
+  Text Joint5;
+  Text Joint6;
+  Text Joint7;
+  Text Joint8;
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_CNSL_D>{Key{"Solid=", &T_CNSL_D::Solid}};
+inline constexpr std::tuple kRowKeys<T_CNSL_D>{
+    Key{"Solid=", &T_CNSL_D::Solid},   Key{"Joint1=", &T_CNSL_D::Joint1},
+    Key{"Joint2=", &T_CNSL_D::Joint2}, Key{"Joint3=", &T_CNSL_D::Joint3},
+    Key{"Joint4=", &T_CNSL_D::Joint4}, Key{"Joint5=", &T_CNSL_D::Joint5},
+    Key{"Joint6=", &T_CNSL_D::Joint6}, Key{"Joint7=", &T_CNSL_D::Joint7},
+    Key{"Joint8=", &T_CNSL_D::Joint8}, Unread{"Volume="}};
+
+/// The eight joints of a solid, those that it does not have empty.
+std::array<Text, 8> JointsOf(const T_CNSL_D& solid);
+
+/// Property assignment of a solid.
+struct T_SLPA_D {
+  static constexpr Text kTable = "T_SLPA_D";
+  Text Solid;
+  Text SolidProp;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_SLPA_D>{Key{"Solid=", &T_SLPA_D::Solid},
+                                               Key{"SolidProp=", &T_SLPA_D::SolidProp}};
+
+/// A solid property. The angles of its material have no place in the output.
+struct T_SLPD_D {
+  static constexpr Text kTable = "T_SLPD_D";
+  Text SolidProp;
+  Text Material;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_SLPD_D>{Key{"SolidProp=", &T_SLPD_D::SolidProp},
+                                               Key{"Material=", &T_SLPD_D::Material},
+                                               Unread{"MatAngleA="},
+                                               Unread{"MatAngleB="},
+                                               Unread{"MatAngleC="},
+                                               Unread{"InComp="},
+                                               Unread{"Color="},
+                                               Unread{"TotalWt="},
+                                               Unread{"TotalMass="}};
+
+/// Gravity loads of solids; the conversion only asks whether there are any.
+struct T_SLLG_D {
+  static constexpr Text kTable = "T_SLLG_D";
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_SLLG_D>{Unread{"Solid="},       Unread{"LoadCase="},
+                                               Unread{"CoordSys="},    Unread{"MultiplierX="},
+                                               Unread{"MultiplierY="}, Unread{"MultiplierZ="}};
+
+/// Mesh settings of solids. They have no place in the output.
+struct T_SLAM_D {
+  static constexpr Text kTable = "T_SLAM_D";
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_SLAM_D>{Unread{"Solid="}, Unread{"AutoMesh="},
+                                               Unread{"Number1="}, Unread{"Number2="},
+                                               Unread{"Number3="}};
+
+/// Material temperatures of solids. They have no place in the output.
+struct T_SLPT_D {
+  static constexpr Text kTable = "T_SLPT_D";
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_SLPT_D>{Unread{"Solid="}, Unread{"Temp="},
+                                               Unread{"JtPattern="}};
+
+// ---- Target records ----
+
+/// A solid element. A position without a record prints these values.
+struct T_NGT_SOLD_D {
+  Text Label = "1";
+  Text TYPE = "SOLID";
+  std::int32_t iMAT = 1;
+  std::int32_t iPRO = 1;
+  std::array<Text, 8> iN{};  // joint labels, turned into numbers when written
+};
 
 // ---- Conversion ----
 
-/// Notes the labels of the solids, which take part in the numbering of all elements.
-bool NoteSolidLabels(Conversion& run);
+/// Solids into solid elements, with their material.
+bool ConvertSolids(Conversion& run);
+
+/// Notes that gravity loads of solids are lost. Meant so: nothing is shown of it.
+bool CheckSolidGravityLoads(Conversion& run);
+
+// ---- Output ----
+
+/// Writes the solid lines of *ELEMENT.
+void WriteSolidElements(Conversion& run, LineWriter& out);
 
 }  // namespace s2k2ngt

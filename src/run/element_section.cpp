@@ -33,7 +33,8 @@ bool FamiliesShareLabels(CModel& model) {
 }  // namespace
 
 bool WriteElements(Conversion& run, LineWriter& out) {
-  if (run.Target.Table<T_NGT_FRAM_D>().Empty() && run.Target.Table<T_NGT_PLAT_D>().Empty()) {
+  if (run.Target.Table<T_NGT_FRAM_D>().Empty() && run.Target.Table<T_NGT_PLAT_D>().Empty() &&
+      run.Target.Table<T_NGT_SOLD_D>().Empty()) {
     return true;
   }
   if (run.Warnings.bNodeNotAssigned) {
@@ -59,6 +60,7 @@ bool WriteElements(Conversion& run, LineWriter& out) {
   run.Elements.ElemFamiliesOverlap = FamiliesShareLabels(run.Source);
   WriteFrameElements(run, out);
   WritePlanarElements(run, out);
+  WriteSolidElements(run, out);
   out.WriteLine("\n");
   return true;
 }

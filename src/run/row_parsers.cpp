@@ -12,6 +12,7 @@
 #include "joints/nodes.h"
 #include "joints/supports.h"
 #include "plates/areas.h"
+#include "plates/links.h"
 #include "plates/lumping.h"
 #include "plates/solids.h"
 #include "source/single_records.h"
@@ -75,6 +76,27 @@ constexpr std::array kRowParsers = std::to_array<Entry>({
     Rows<T_ASPA_D>(),
     Rows<T_ADMA_D>(),
     Rows<T_CNSL_D>(),
+    Rows<T_SLPA_D>(),
+    Rows<T_SLPD_D>(),
+    Rows<T_SLLG_D>(),
+    Rows<T_SLAM_D>(),
+    Rows<T_SLPT_D>(),
+    Rows<T_SMLA_D>(),
+    Rows<T_CNLK_D>(),
+    Rows<T_LLCT_D>(),
+    Rows<T_LLCA_D>(),
+    Rows<T_LPGN_D>(),
+    Rows<T_LPLN_D>(),
+    Rows<T_LPDM_D>(),
+    Rows<T_LPGP_D>(),
+    Rows<T_LPHK_D>(),
+    Rows<T_LPRB_D>(),
+    Rows<T_LPSL_D>(),
+    Rows<T_LPPW_D>(),
+    Rows<T_LPMT_D>(),
+    Rows<T_LPPK_D>(),
+    Rows<T_LPAN_D>(),
+    Rows<T_LLDG_D>(),
     Rows<T_FRSB_D>(),
     Rows<T_FRSF_D>(),
     Rows<T_FRSH_D>(),

@@ -11,6 +11,7 @@
 #include "joints/nodes.h"
 #include "joints/supports.h"
 #include "plates/areas.h"
+#include "plates/links.h"
 #include "run/element_section.h"
 #include "target/head.h"
 
@@ -40,9 +41,9 @@ const std::array<Section, 37> kSections = {{
     {"*OFFSET", WriteOffsets},
     {"*FRAME-RLS", WriteReleases},
     {"*INIFORCE", NotWrittenYet},
-    {"*ELASTICLINK", NotWrittenYet},
-    {"*NL-PROP", NotWrittenYet},
-    {"*NL-LINK", NotWrittenYet},
+    {"*ELASTICLINK", WriteElasticLinks},
+    {"*NL-PROP", WriteLinkProperties},
+    {"*NL-LINK", WriteNonlinearLinks},
     {"*RIGIDLINK", WriteRigidLinks},
     {"*LINELANE", NotWrittenYet},
     {"*VEHICLE", NotWrittenYet},

@@ -12,6 +12,7 @@
 #include "joints/nodes.h"
 #include "joints/supports.h"
 #include "plates/areas.h"
+#include "plates/links.h"
 #include "plates/lumping.h"
 #include "plates/solids.h"
 
@@ -70,9 +71,9 @@ constexpr std::array kAreaSteps = std::to_array<Stage>({
 });
 
 constexpr std::array kSolidSteps = std::to_array<Stage>({
-    {"connectivity", NoteSolidLabels},
+    {"connectivity", ConvertSolids},
     {"temperature loads", NotConvertedYet},
-    {"gravity loads", NotConvertedYet},
+    {"gravity loads", CheckSolidGravityLoads},
 });
 
 bool ConvertJointGroup(Conversion& run) { return RunGroup(kJointSteps, run); }
@@ -85,7 +86,7 @@ bool ConvertSolidGroup(Conversion& run) { return RunGroup(kSolidSteps, run); }
 const std::array<Stage, 19> kStages = {{
     {"joints", ConvertJointGroup},
     {"frames", ConvertFrameGroup},
-    {"links", NotConvertedYet},
+    {"links", ConvertLinks},
     {"areas", ConvertAreaGroup},
     {"solids", ConvertSolidGroup},
     {"static load cases", NotConvertedYet},

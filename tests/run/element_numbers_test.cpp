@@ -404,7 +404,8 @@ TABLE:  "CONNECTIVITY - SOLID"
    Solid=S1   Joint1=1   Joint2=2   Joint3=3   Joint4=4   Joint5=5   Joint6=6
 )");
   EXPECT_THAT(run.Messages,
-              ElementsAre("IDS_S2KV8_ELEM_Renumbering", "IDS_S2KV8_FRAM_LclAx_Not_Convert"));
+              ElementsAre("IDS_S2KV8_ELEM_Renumbering", "IDS_S2KV8_FRAM_LclAx_Not_Convert",
+                          "IDS_S2KV8_SOLD_LclAx_Not_Convert"));
   EXPECT_EQ(run.Lines("*ELEMENT").at(0),
             "\t1,  BEAM,     0,     0,     1,     2,     0\t\t;Frame=7");
 }

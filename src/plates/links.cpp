@@ -1,0 +1,399 @@
+#include "plates/links.h"
+
+#include "frames/elements.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+/// The joints of a link. Meant so: a link that is not there has those of the last link of the walk.
+T_CNLK_D ConnectivityOrLastLink(CModel& model, Text link) {
+  const auto found = model.Rows<T_CNLK_D>().FirstOrLastWith<&T_CNLK_D::Link>(link);
+  return found ? found->Value : T_CNLK_D{};
+}
+
+double AngleOfLink(CModel& model, Text link) {
+  const auto typical = model.Rows<T_LLCT_D>().FirstWith<&T_LLCT_D::Link>(link);
+  if (!typical) {
+    return 0.0;
+  }
+  const double angle = typical->Value.Angle;
+  if (!typical->Value.AdvanceAxes) {
+    return angle;
+  }
+  const auto advanced = model.Rows<T_LLCA_D>().FirstWith<&T_LLCA_D::Link>(link);
+  if (!advanced) {
+    return angle;
+  }
+  const T_LLCA_D& axes = advanced->Value;
+  return AngleInPlane(model,
+                      {axes.LocalPlane, axes.PlOption1, axes.CoordDir1, axes.CoordDir2,
+                       axes.PlVecJt1, axes.PlVecJt2, axes.PlVecY, axes.PlVecZ},
+                      angle);
+}
+
+/// Takes a direction of a linear property into the link. The target's axes y and z are the source's
+/// axes 3 and 2.
+void TakeLinearDirection(const T_LPLN_D& row, T_NGT_ELNK_D& link) {
+  const auto takeShear = [&](double& distance) {
+    if (row.DJ > 0) {
+      link.bSHEAR = "YES";
+      distance = row.DJ;
+    }
+  };
+  if (row.DOF == "U1") {
+    link.SDx = row.TransKE;
+  } else if (row.DOF == "U2") {
+    link.SDz = row.TransKE;
+    takeShear(link.DRz);
+  } else if (row.DOF == "U3") {
+    link.SDy = row.TransKE;
+    takeShear(link.DRy);
+  } else if (row.DOF == "R1") {
+    link.SRx = row.RotKE;
+  } else if (row.DOF == "R2") {
+    link.SRz = row.RotKE;
+  } else if (row.DOF == "R3") {
+    link.SRy = row.RotKE;
+  }
+}
+
+void ConvertElasticLink(Conversion& run, const T_SMLA_D& summary) {
+  if (run.Source.Rows<T_CNLK_D>().Empty()) {
+    return;
+  }
+  const T_CNLK_D joints = ConnectivityOrLastLink(run.Source, summary.Link);
+  T_NGT_ELNK_D link{.iNODE1 = joints.JointI, .iNODE2 = joints.JointJ};
+  if (summary.LocalAxes) {
+    link.ANGLE = AngleOfLink(run.Source, summary.Link);
+  }
+  const auto& directions = run.Source.Rows<T_LPLN_D>();
+  for (const std::uint32_t position : directions.AllWith<&T_LPLN_D::Link>(summary.LinkProp)) {
+    TakeLinearDirection(directions.AtWalk(position).Value, link);
+  }
+  run.Target.Table<T_NGT_ELNK_D>().Append(link);
+}
+
+void ConvertNonlinearLink(Conversion& run, const T_SMLA_D& summary) {
+  if (run.Source.Rows<T_CNLK_D>().Empty()) {
+    return;
+  }
+  const T_CNLK_D joints = ConnectivityOrLastLink(run.Source, summary.Link);
+  T_NGT_NLNK_D link{.PROP = summary.LinkProp, .iNODE1 = joints.JointI, .iNODE2 = joints.JointJ};
+  if (summary.LocalAxes) {
+    link.ANGLE = AngleOfLink(run.Source, summary.Link);
+  }
+  run.Target.Table<T_NGT_NLNK_D>().Append(link);
+}
+
+// Places of a property's directions.
+constexpr std::size_t kDY = 1;
+constexpr std::size_t kDZ = 2;
+
+bool IsRotation(std::size_t place) { return place > kDZ; }
+
+/// The place of a source direction. The target's axes y and z are the source's axes 3 and 2.
+std::optional<std::size_t> PlaceOf(Text dof) {
+  constexpr std::array<Text, 6> kPlaces = {"U1", "U3", "U2", "R1", "R3", "R2"};
+  const auto* const found = std::ranges::find(kPlaces, dof);
+  return found == kPlaces.end() ? std::nullopt
+                                : std::optional(static_cast<std::size_t>(found - kPlaces.begin()));
+}
+
+// The values of a direction that is nonlinear, for each kind of link.
+
+void TakeNonlinear(const T_LPDM_D& row, std::size_t place, LinkDirection& direction) {
+  direction.DSTIFF = IsRotation(place) ? row.RotK : row.TransK;
+  direction.DAMP = IsRotation(place) ? row.RotC : row.TransC;
+  direction.DEXP = row.CExp;
+}
+
+void TakeNonlinear(const Opening& row, std::size_t place, LinkDirection& direction) {
+  direction.STIFF = IsRotation(place) ? row.RotK : row.TransK;
+  direction.OPEN = IsRotation(place) ? row.RotOpen : row.TransOpen;
+}
+
+void TakeNonlinear(const T_LPPW_D& row, std::size_t place, LinkDirection& direction) {
+  direction.STIFF = IsRotation(place) ? row.RotK : row.TransK;
+  direction.YSTR = IsRotation(place) ? row.RotYield : row.TransYield;
+  direction.PYS_RATIO = row.Ratio;
+  direction.YEXP = row.YieldExp;
+  direction.PA = 0.5;
+  direction.PB = 0.5;
+}
+
+void TakeNonlinear(const T_LPRB_D& row, std::size_t place, LinkDirection& direction) {
+  if (IsRotation(place)) {
+    return;
+  }
+  direction.STIFF = row.TransK;
+  if (place == kDY || place == kDZ) {
+    direction.YSTR = row.TransYield;
+    direction.PYS_RATIO = row.Ratio;
+    direction.PA = 0.5;
+    direction.PB = 0.5;
+  }
+}
+
+void TakeNonlinear(const T_LPSL_D& row, std::size_t place, LinkDirection& direction) {
+  if (IsRotation(place)) {
+    return;
+  }
+  direction.STIFF = row.TransK;
+  if (place == kDY || place == kDZ) {
+    direction.FCS = row.Slow;
+    direction.FCF = row.Fast;
+    direction.RP = row.Rate;
+    direction.RADIUS = row.Radius;
+    direction.PA = 0.5;
+    direction.PB = 0.5;
+  }
+}
+
+/// The distance of a shear spring, which must lie in the link.
+void TakeShearDistance(double distance, T_NGT_NLPR_D& property, double& target) {
+  if (distance > kTolerance) {
+    property.bSSL = "YES";
+    target = std::min(distance, 1.0);
+  }
+}
+
+/// The directions of a property from the table of its kind. An empty table leaves the property
+/// without name and type.
+template <std::derived_from<NonlinearDirection> Record>
+void TakeDirections(CModel& model, Text name, Text type, T_NGT_NLPR_D& property) {
+  const auto& rows = model.Rows<Record>();
+  if (rows.Empty()) {
+    return;
+  }
+  std::optional<std::size_t> place;
+  for (const std::uint32_t position : rows.template AllWith<&NonlinearDirection::Link>(name)) {
+    const Record& row = rows.AtWalk(position).Value;
+    // Meant so: a row of a direction that there is not falls on that of the row before it.
+    if (const auto ownPlace = PlaceOf(row.DOF)) {
+      place = ownPlace;
+    }
+    if (!place) {
+      continue;
+    }
+    LinkDirection& direction = property.Directions[*place];
+    direction.bL = "YES";
+    direction.D = IsRotation(*place) ? row.RotKE : row.TransKE;
+    if (row.NonLinear) {
+      direction.bN = "YES";
+      TakeNonlinear(row, *place, direction);
+      direction.EFFDAMP = IsRotation(*place) ? row.RotCE : row.TransCE;
+    }
+    // Meant so: the distance of the DY spring is stored as DZ, and that of DZ as DY.
+    if (*place == kDY) {
+      TakeShearDistance(row.DJ, property, property.DZ);
+    } else if (*place == kDZ) {
+      TakeShearDistance(row.DJ, property, property.DY);
+    }
+  }
+  property.NAME = name;
+  property.TYPE = type;
+}
+
+/// A kind of nonlinear link property.
+struct PropertyKind {
+  Text LinkType;
+  Text TYPE;
+  void (*TakeDirections)(CModel& model, Text name, Text type, T_NGT_NLPR_D& property);
+};
+
+constexpr Text kDamper = "VD";
+
+constexpr std::array kPropertyKinds = std::to_array<PropertyKind>({
+    {"Damper", kDamper, TakeDirections<T_LPDM_D>},
+    {"Gap", "GAP", TakeDirections<T_LPGP_D>},
+    {"Hook", "HOOK", TakeDirections<T_LPHK_D>},
+    {"Rubber Isolator", "LRBI", TakeDirections<T_LPRB_D>},
+    {"Friction Isolator", "FPSI", TakeDirections<T_LPSL_D>},
+    {"Plastic (Wen)", "HS", TakeDirections<T_LPPW_D>},
+});
+
+constexpr Text kLinear = "Linear";
+
+/// True for the kinds of links that the target does not have.
+bool IsLost(Text linkType) {
+  return linkType == "MultiLinear" || linkType == "Plastic (Kinematic)";
+}
+
+void ConvertProperties(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_LPGN_D>().Walk()) {
+    if (row.LinkType == kLinear || IsLost(row.LinkType)) {
+      continue;
+    }
+    T_NGT_NLPR_D property;
+    const auto* const kind =
+        std::ranges::find(kPropertyKinds, row.LinkType, &PropertyKind::LinkType);
+    if (kind != kPropertyKinds.end()) {
+      kind->TakeDirections(run.Source, row.Link, kind->TYPE, property);
+    }
+    if (property.TYPE == kDamper) {
+      property.bRIGDBR = "YES";
+    }
+    property.TW = row.Weight;
+    run.Target.Table<T_NGT_NLPR_D>().Append(property);
+  }
+}
+
+}  // namespace
+
+bool ConvertLinks(Conversion& run) {
+  const auto& links = run.Source.Rows<T_SMLA_D>();
+  if (links.Empty()) {
+    return true;
+  }
+  for (const auto [key, link] : links.Walk()) {
+    if (link.LinkJoint == "SingleJoint") {
+      run.Warnings.bSingleJointLink = true;
+    } else if (link.LinkType == kLinear) {
+      ConvertElasticLink(run, link);
+    } else if (!IsLost(link.LinkType)) {
+      ConvertNonlinearLink(run, link);
+    }
+  }
+  ConvertProperties(run);
+  return true;
+}
+
+void CheckMultiLinearProperties(Conversion& run) {
+  if (!run.Source.Rows<T_LPMT_D>().Empty()) {
+    run.Target.bLinkMultiLinearLost = true;
+  }
+}
+
+void CheckKinematicProperties(Conversion& run) {
+  if (!run.Source.Rows<T_LPPK_D>().Empty()) {
+    run.Target.bLinkKinematicLost = true;
+  }
+}
+
+// ---- Output ----
+
+bool WriteElasticLinks(Conversion& run, LineWriter& out) {
+  const auto& links = run.Target.Table<T_NGT_ELNK_D>();
+  if (links.Empty()) {
+    return true;
+  }
+  if (run.Warnings.bSingleJointLink) {
+    run.Shown.Show("IDS_S2KV8_LINK_Sinlge_Joint");
+  }
+  out.WriteLine("%s\n", "*ELASTICLINK");
+  out.WriteLine(
+      "; iNODE1, iNODE2, LINK, ANGLE, SDx, SDy, SDz, SRx, SRy, SRz, bSHEAR, DRy, DRz, GROUP   ; "
+      "GEN\n");
+  out.WriteLine(
+      "; iNODE1, iNODE2, LINK, ANGLE, bSHEAR, DRy, DRz, GROUP                                 ; "
+      "RIGID\n");
+  out.WriteLine(
+      "; iNODE1, iNODE2, LINK, ANGLE, SDx, bSHEAR, DRy, DRz, GROUP                            ; "
+      "TENS,COMP\n");
+  for (const auto [key, link] : links.Walk()) {
+    out.WriteLine("\t%d, %5d, %5s, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5s, %5g, %5g, %5s\n",
+                  run.Target.NodeNumber(link.iNODE1), run.Target.NodeNumber(link.iNODE2), "GEN",
+                  link.ANGLE, link.SDx, link.SDy, link.SDz, link.SRx, link.SRy, link.SRz,
+                  link.bSHEAR, link.DRy, link.DRz, "");
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+namespace {
+
+/// What stands behind a direction that is nonlinear.
+void WriteNonlinearValues(const T_NGT_NLPR_D& property, std::size_t place, LineWriter& out) {
+  const LinkDirection& v = property.Directions[place];
+  // Meant so, and one place behind the directions that hold the values: the long form of isolators
+  // stands on the lines of DZ and RX, so that the yield values of DY are not written.
+  const bool hasLongForm = place == 2 || place == 3;
+  if (property.TYPE == kDamper) {
+    out.WriteLine(", %5g, %5g, %5g, %5s, %5g, %5g\n", v.DSTIFF, v.DAMP, v.DEXP, property.bRIGDBR,
+                  property.BSTIFF, v.EFFDAMP);
+  } else if (property.TYPE == "GAP" || property.TYPE == "HOOK") {
+    out.WriteLine(", %5g, %5g, %5g\n", v.STIFF, v.OPEN, v.EFFDAMP);
+  } else if (property.TYPE == "HS") {
+    out.WriteLine(", %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", v.STIFF, v.YSTR, v.PYS_RATIO, v.YEXP,
+                  v.PA, v.PB, v.EFFDAMP);
+  } else if (!hasLongForm) {
+    out.WriteLine(", %5g, %5g\n", v.STIFF, v.EFFDAMP);
+  } else if (property.TYPE == "LRBI") {
+    out.WriteLine(", %5g, %5g, %5g, %5g, %5g, %5g\n", v.STIFF, v.YSTR, v.PYS_RATIO, v.PA, v.PB,
+                  v.EFFDAMP);
+  } else {
+    out.WriteLine(", %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", v.STIFF, v.FCS, v.FCF, v.RP,
+                  v.RADIUS, v.PA, v.PB, v.EFFDAMP);
+  }
+}
+
+}  // namespace
+
+bool WriteLinkProperties(Conversion& run, LineWriter& out) {
+  const auto& properties = run.Target.Table<T_NGT_NLPR_D>();
+  if (properties.Empty()) {
+    return true;
+  }
+  if (run.Target.bLinkMultiLinearLost) {
+    run.Shown.Show("IDS_S2KV8_LINK_Mult_Lin_Not_Convert");
+  }
+  if (run.Target.bLinkKinematicLost) {
+    run.Shown.Show("IDS_S2KV8_LINK_Mult_Kine_Not_Convert");
+  }
+  out.WriteLine("%s\n", "*NL-PROP    ; Nonlinear Link Property");
+  out.WriteLine("; NAME, TYPE, TW, bSSL, DY, DZ, DESC\n");
+  for (const Text direction : {"DX", "DY", "DZ", "RX", "RY", "RZ"}) {
+    out.WriteLine("; bL%s, %s, bN%s, [NL_PROP]\n", direction, direction, direction);
+  }
+  out.WriteLine(
+      "; [NL_PROP] : DSTIFF, DAMP, DEXP, bRIGDBR, BSTIFF, EFFDAMP    ; Visco-elastic Damper "
+      "Type\n");
+  out.WriteLine(
+      "; [NL_PROP] : STIFF, OPEN, EFFDAMP                            ; Gap Type or Hook Type\n");
+  out.WriteLine(
+      "; [NL_PROP] : STIFF, YSTR, PYS_RATIO, YEXP, PA, PB, EFFDAMP   ; Hysteretic System Type\n");
+  out.WriteLine(
+      "; [NL_PROP] : STIFF, YSTR, PYS_RATIO, PA, PB, EFFDAMP         ; Lead Rubber Bearing Type\n");
+  out.WriteLine(
+      "; [NL_PROP] : STIFF, FCS, FCF, RP, RADIUS, PA, PB, EFFDAMP    ; Friction Pendulum System "
+      "Type\n");
+  for (const auto [key, property] : properties.Walk()) {
+    out.WriteLine("\t%s, %5s, %5g, %5s, %5g, %5g, %5s\n", property.NAME, property.TYPE, property.TW,
+                  property.bSSL, property.DY, property.DZ, "");
+    for (std::size_t place = 0; place < property.Directions.size(); ++place) {
+      const LinkDirection& direction = property.Directions[place];
+      out.WriteLine("\t\t%s, %5g, %5s", direction.bL, direction.D, direction.bN);
+      if (direction.bN == "YES") {
+        WriteNonlinearValues(property, place, out);
+      } else {
+        out.WriteLine("\n");
+      }
+    }
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+bool WriteNonlinearLinks(Conversion& run, LineWriter& out) {
+  const auto& links = run.Target.Table<T_NGT_NLNK_D>();
+  if (links.Empty()) {
+    return true;
+  }
+  out.WriteLine("%s\n", "*NL-LINK  ; Nonlinear Link");
+  out.WriteLine("; iNODE1, iNODE2, PROP, ANGLE, GROUP\n");
+  for (const auto [key, link] : links.Walk()) {
+    out.WriteLine("\t%d, %5d, %5s, %5g, %5s\n", run.Target.NodeNumber(link.iNODE1),
+                  run.Target.NodeNumber(link.iNODE2), link.PROP, link.ANGLE, "");
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+}  // namespace s2k2ngt
