@@ -1,10 +1,24 @@
 #pragma once
 
+#include "common/text.h"
+#include "source/row_grammar.h"
 #include "target/conversion.h"
 
 #include <cstdint>
 
 namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// Property modifiers of a single frame, for which the target has no place.
+struct T_FRPM_D {
+  static constexpr Text kTable = "T_FRPM_D";
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRPM_D>{
+    Unread{"Frame="},  Unread{"AMod="},   Unread{"AS2Mod="},  Unread{"AS3Mod="},   Unread{"JMod="},
+    Unread{"I22Mod="}, Unread{"I33Mod="}, Unread{"MassMod="}, Unread{"WeightMod="}};
 
 // ---- Target records ----
 

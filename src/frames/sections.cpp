@@ -11,6 +11,32 @@
 
 namespace s2k2ngt {
 
+// ---- Source rows ----
+
+namespace {
+
+bool IsFirst(const T_FSNP_D& segment) { return segment.SegmentNum == 1; }
+
+/// So also a segment whose row states no numbers.
+bool IsLast(const T_FSNP_D& segment) { return segment.NumSegments == segment.SegmentNum; }
+
+}  // namespace
+
+NonprismaticEnds EndsOfNonprismatic(CModel& model, Text sectionName) {
+  NonprismaticEnds ends;
+  const auto& segments = model.Rows<T_FSNP_D>();
+  for (const std::uint32_t position : segments.AllWith<&T_FSNP_D::SectionName>(sectionName)) {
+    const T_FSNP_D& segment = segments.AtWalk(position).Value;
+    if (IsFirst(segment)) {
+      ends.Start = segment.StartSect;
+    }
+    if (IsLast(segment)) {
+      ends.End = segment.EndSect;
+    }
+  }
+  return ends;
+}
+
 // ---- Conversion ----
 
 namespace {
@@ -106,11 +132,11 @@ std::optional<T_NGT_SECT_D> ConvertTapered(Conversion& run, Text name) {
   for (const std::uint32_t position : segments.AllWith<&T_FSNP_D::SectionName>(name)) {
     const T_FSNP_D& segment = segments.AtWalk(position).Value;
     section.TYPE = SectionType::Tapered;
-    if (segment.SegmentNum == 1 && start.Take(run.Source, segment.StartSect, section.I)) {
+    if (IsFirst(segment) && start.Take(run.Source, segment.StartSect, section.I)) {
       SetVariation(segment.EI33Var, section.iyVAR);
       SetVariation(segment.EI22Var, section.izVAR);
     }
-    if (segment.NumSegments == segment.SegmentNum) {
+    if (IsLast(segment)) {
       end.Take(run.Source, segment.EndSect, section.J);
     }
   }
@@ -156,17 +182,15 @@ std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, std::uint32_t key,
   }
   section.I = EndWith(PrismaticDimensions(section.SHAPE, source), source);
   if (HasScaleFactors(source)) {
-    auto& factors = run.Target.Table<T_NGT_FRPM_D>();
     // The bending factors cross over as the moments of inertia do.
-    factors.Insert(static_cast<std::uint32_t>(factors.Count()) + 1,
-                   {.iSEC = static_cast<std::int32_t>(key),
-                    .AREA_SF = source.AMod,
-                    .ASY_SF = source.A2Mod,
-                    .ASZ_SF = source.A3Mod,
-                    .IXX_SF = source.JMod,
-                    .IYY_SF = source.I3Mod,
-                    .IZZ_SF = source.I2Mod,
-                    .WGT_SF = source.WMod});
+    run.Target.Table<T_NGT_FRPM_D>().Append({.iSEC = static_cast<std::int32_t>(key),
+                                             .AREA_SF = source.AMod,
+                                             .ASY_SF = source.A2Mod,
+                                             .ASZ_SF = source.A3Mod,
+                                             .IXX_SF = source.JMod,
+                                             .IYY_SF = source.I3Mod,
+                                             .IZZ_SF = source.I2Mod,
+                                             .WGT_SF = source.WMod});
   }
   return section;
 }

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 namespace s2k2ngt {
 
@@ -104,6 +105,16 @@ inline constexpr std::tuple kRowKeys<T_FSNP_D>{Key{"SectionName=", &T_FSNP_D::Se
                                                Unread{"VarLength="},
                                                Key{"EI33Var=", &T_FSNP_D::EI33Var},
                                                Key{"EI22Var=", &T_FSNP_D::EI22Var}};
+
+/// The sections at the two ends of a nonprismatic one, as far as its segments name them.
+struct NonprismaticEnds {
+  std::optional<Text> Start;
+  std::optional<Text> End;
+};
+
+/// The ends by the segments' numbers, whether or not the sections are there. Of several segments of
+/// a number the last of the walk counts.
+NonprismaticEnds EndsOfNonprismatic(CModel& model, Text sectionName);
 
 // ---- Target records ----
 

@@ -1,16 +1,26 @@
 #include "run/row_parsers.h"
 
+#include "analysis/cases.h"
 #include "analysis/spectrum.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
+#include "frames/initial_forces.h"
 #include "frames/lumping.h"
 #include "frames/materials.h"
+#include "frames/modifiers.h"
 #include "frames/sections.h"
 #include "joints/constraints.h"
 #include "joints/local_axes.h"
 #include "joints/masses.h"
 #include "joints/nodes.h"
 #include "joints/supports.h"
+#include "loads/area_loads.h"
+#include "loads/frame_loads.h"
+#include "loads/joint_loads.h"
+#include "loads/joint_patterns.h"
+#include "loads/load_cases.h"
+#include "loads/temperature_loads.h"
+#include "loads/wind_seismic.h"
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/lumping.h"
@@ -67,6 +77,10 @@ constexpr std::array kRowParsers = std::to_array<Entry>({
     Rows<T_MTAD_D>(),
     Rows<T_FRSG_D>(),
     Rows<T_FSNP_D>(),
+    Rows<T_FRPM_D>(),
+    Rows<T_FRPD_D>(),
+    Rows<T_FRPT_D>(),
+    Rows<T_FRLM_D>(),
     Rows<T_FRSA_D>(),
     Rows<T_FRAD_D>(),
     Rows<T_CNAR_D>(),
@@ -97,6 +111,32 @@ constexpr std::array kRowParsers = std::to_array<Entry>({
     Rows<T_LPPK_D>(),
     Rows<T_LPAN_D>(),
     Rows<T_LLDG_D>(),
+    Rows<T_LDCS_D>(),
+    Rows<T_STC1_D>(),
+    Rows<T_JTLF_D>(),
+    Rows<T_JTGD_D>(),
+    Rows<T_FRLD_D>(),
+    Rows<T_FRLP_D>(),
+    Rows<T_FRLG_D>(),
+    Rows<T_ALUM_D>(),
+    Rows<T_ALSP_D>(),
+    Rows<T_ALRT_D>(),
+    Rows<T_ALUF_D>(),
+    Rows<T_ALWP_D>(),
+    Rows<T_JTPA_D>(),
+    Rows<T_FRLT_D>(),
+    Rows<T_ALTM_D>(),
+    Rows<T_SLLT_D>(),
+    Rows<T_FRRT_D>(),
+    Rows<T_AMRT_D>(),
+    Rows<T_SLRT_D>(),
+    Rows<T_AMMT_D>(),
+    Rows<T_SUB7_D>(),
+    Rows<T_SNBC_D>(),
+    Rows<T_WUB7_D>(),
+    Rows<T_WAS8_D>(),
+    Rows<T_WNBC_D>(),
+    Rows<T_ANAL_D>(),
     Rows<T_FRSB_D>(),
     Rows<T_FRSF_D>(),
     Rows<T_FRSH_D>(),

@@ -2,6 +2,7 @@
 
 #include "analysis/controls.h"
 #include "frames/end_conditions.h"
+#include "frames/initial_forces.h"
 #include "frames/materials.h"
 #include "frames/modifiers.h"
 #include "frames/sections.h"
@@ -13,6 +14,7 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "run/element_section.h"
+#include "run/static_load_section.h"
 #include "target/head.h"
 
 namespace s2k2ngt {
@@ -36,11 +38,11 @@ const std::array<Section, 37> kSections = {{
     {"*CONSTRAINT", WriteSupports},
     {"*SPRING", WritePointSprings},
     {"*GSPRING, *GSPRTYPE", WriteGeneralSprings},
-    {"*STLDCASE", NotWrittenYet},
+    {"*STLDCASE", WriteStaticLoads},
     {"*NODALMASS", WriteMasses},
     {"*OFFSET", WriteOffsets},
     {"*FRAME-RLS", WriteReleases},
-    {"*INIFORCE", NotWrittenYet},
+    {"*INIFORCE", WriteInitialForces},
     {"*ELASTICLINK", WriteElasticLinks},
     {"*NL-PROP", WriteLinkProperties},
     {"*NL-LINK", WriteNonlinearLinks},

@@ -1,8 +1,10 @@
 #include "run/stages.h"
 
+#include "analysis/cases.h"
 #include "analysis/spectrum.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
+#include "frames/initial_forces.h"
 #include "frames/lumping.h"
 #include "frames/materials.h"
 #include "frames/sections.h"
@@ -11,6 +13,11 @@
 #include "joints/masses.h"
 #include "joints/nodes.h"
 #include "joints/supports.h"
+#include "loads/area_loads.h"
+#include "loads/frame_loads.h"
+#include "loads/joint_loads.h"
+#include "loads/load_cases.h"
+#include "loads/temperature_loads.h"
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/lumping.h"
@@ -38,22 +45,22 @@ constexpr std::array kJointSteps = std::to_array<Stage>({
     {"typical local axes", ConvertLocalAxes},
     {"uncoupled springs", ConvertUncoupledSprings},
     {"coupled springs", ConvertCoupledSprings},
-    {"joint forces", NotConvertedYet},
+    {"joint forces", ConvertJointForces},
     {"joint masses", ConvertJointMasses},
     {"constraint assignments", ConvertConstraints},
-    {"ground displacements", NotConvertedYet},
+    {"ground displacements", ConvertGroundDisplacements},
     {"node map", MapNodes},
 });
 
 constexpr std::array kFrameSteps = std::to_array<Stage>({
-    {"gravity loads", NotConvertedYet},
+    {"gravity loads", ConvertFrameGravity},
     {"connectivity", ConvertFrames},
     {"general assignments", ConvertReleases},
-    {"point loads", NotConvertedYet},
-    {"distributed loads", NotConvertedYet},
-    {"load patterns", NotConvertedYet},
-    {"P-Delta force", NotConvertedYet},
-    {"temperature loads", NotConvertedYet},
+    {"point loads", ConvertPointLoads},
+    {"distributed loads", ConvertDistributedLoads},
+    {"load patterns", ConvertPrestress},
+    {"P-Delta force", ConvertInitialForces},
+    {"temperature loads", ConvertFrameTemperatures},
     {"insertion point and offset", ConvertOffsets},
     {"springs", ConvertFrameSprings},
     {"added mass", ConvertFrameMasses},
@@ -62,17 +69,17 @@ constexpr std::array kFrameSteps = std::to_array<Stage>({
 constexpr std::array kAreaSteps = std::to_array<Stage>({
     {"connectivity", ConvertAreas},
     {"section modifiers", CheckAreaModifiers},
-    {"uniform loads", NotConvertedYet},
-    {"surface pressure loads", NotConvertedYet},
+    {"uniform loads", ConvertUniformLoads},
+    {"surface pressure loads", ConvertSurfacePressures},
     {"gravity loads", CheckAreaGravityLoads},
     {"added mass", ConvertAreaMasses},
     {"springs", ConvertAreaSprings},
-    {"temperature loads", NotConvertedYet},
+    {"temperature loads", ConvertAreaTemperatures},
 });
 
 constexpr std::array kSolidSteps = std::to_array<Stage>({
     {"connectivity", ConvertSolids},
-    {"temperature loads", NotConvertedYet},
+    {"temperature loads", ConvertSolidTemperatures},
     {"gravity loads", CheckSolidGravityLoads},
 });
 
@@ -89,7 +96,7 @@ const std::array<Stage, 19> kStages = {{
     {"links", ConvertLinks},
     {"areas", ConvertAreaGroup},
     {"solids", ConvertSolidGroup},
-    {"static load cases", NotConvertedYet},
+    {"static load cases", ConvertSelfWeights},
     {"materials", ConvertMaterials},
     {"frame sections", ConvertSections},
     {"area sections", ConvertThicknesses},
@@ -100,7 +107,7 @@ const std::array<Stage, 19> kStages = {{
     {"moving load cases", NotConvertedYet},
     {"spectrum functions", CheckSpectrumFunctions},
     {"response spectrum cases", NotConvertedYet},
-    {"analysis cases", NotConvertedYet},
+    {"analysis cases", ConvertAnalysisCases},
     {"analysis control", NotConvertedYet},
     {"load combinations", NotConvertedYet},
 }};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// An analysis case.
+struct T_ANAL_D {
+  static constexpr Text kTable = "T_ANAL_D";
+  Text Case;
+  Text Type;  // its kind, "LinStatic" and the like
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_ANAL_D>{Key{"Case=", &T_ANAL_D::Case},
+                                               Key{"Type=", &T_ANAL_D::Type},
+                                               Unread{"InitialCond="}, Unread{"ModalCase="}};
+
+// ---- Conversion ----
+
+/// Hands each analysis case to the conversion of its kind. Other kinds are passed over.
+bool ConvertAnalysisCases(Conversion& run);
+
+}  // namespace s2k2ngt

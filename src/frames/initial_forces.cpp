@@ -1,0 +1,90 @@
+#include "frames/initial_forces.h"
+
+#include "target/load_frame.h"
+
+#include <array>
+#include <utility>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+Text TargetDirection(Text direction) {
+  constexpr std::array<std::pair<Text, Text>, 4> kDirections = {
+      {{"Local 1", "AXIAL"}, {"X Proj", "GX"}, {"Y Proj", "GY"}, {"Z Proj", "GZ"}}};
+  for (const auto& [source, target] : kDirections) {
+    if (source == direction) {
+      return target;
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+bool ConvertInitialForces(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_FRPD_D>().Walk()) {
+    run.Target.Add(key, T_NGT_FRPD_D{row.Frame, TargetDirection(row.Direction), row.Force});
+  }
+  return true;
+}
+
+bool ConvertPrestress(Conversion& run) {
+  const auto& multipliers = run.Source.Rows<T_FRLM_D>();
+  // Meant so: a tendon without a multiplier takes that of the tendon before it in the walk. It has
+  // no load case and prints nowhere.
+  double multiplier = 1.0;
+  for (const auto [key, tendon] : run.Source.Rows<T_FRPT_D>().Walk()) {
+    // Tendons and multipliers are paired by position: the two tables list the frames in one order.
+    const T_FRLM_D* const paired = multipliers.Find(key);
+    Text loadCase;
+    if (paired != nullptr && paired->Frame == tendon.Frame) {
+      loadCase = paired->LoadCase;
+      multiplier = paired->Multiplier;
+    }
+    run.Target.Add(key, T_NGT_FRPT_D{.Label = tendon.Frame,
+                                     .LoadCase = loadCase,
+                                     .TENS = tendon.Tension * multiplier,
+                                     .DI = tendon.DrapeI,
+                                     // the middle alone changes its sign
+                                     .DM = -tendon.DrapeCenter,
+                                     .DJ = tendon.DrapeJ});
+  }
+  return true;
+}
+
+// ---- Output ----
+
+bool WriteInitialForces(Conversion& run, LineWriter& out) {
+  const auto& forces = run.Target.Table<T_NGT_FRPD_D>();
+  if (forces.Empty()) {
+    return true;
+  }
+  out.WriteLine("%s\n", "*INIFORCE    ; Initial Forces for Geometric Stiffness");
+  out.WriteLine("; ELEM_LIST, DIR, FORCE\n");
+  ElementReferences elements(run.Elements);
+  for (std::uint32_t key = 1; key <= forces.Count(); ++key) {
+    const T_NGT_FRPD_D force = RecordOr(forces.Find(key), T_NGT_FRPD_D{});
+    out.WriteLine("\t%d, %5s, %5g\n", elements.NumberOf(force.Label, kFrameFamily), force.DIR,
+                  force.FORCE);
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+void WritePrestress(Conversion& run, Text loadCase, LineWriter& out) {
+  ElementReferences elements(run.Elements);
+  WriteLoads(
+      out, loadCase,
+      {"*PRESTRESS    ; Prestress Beam Loads", "; ELEM_LIST, LTYPE, TENS, DI, DM, DJ, GROUP"},
+      LoadsByKey<&T_NGT_FRPT_D::LoadCase>(run.Target.Table<T_NGT_FRPT_D>(), loadCase),
+      [&](const T_NGT_FRPT_D& load) {
+        out.WriteLine("\t%d, %5s, %5g, %5g, %5g, %5g,\n",
+                      elements.NumberOf(load.Label, kFrameFamily), load.LTYPE, load.TENS, load.DI,
+                      load.DM, load.DJ);
+      });
+}
+
+}  // namespace s2k2ngt

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// A P-delta force of a frame.
+struct T_FRPD_D {
+  static constexpr Text kTable = "T_FRPD_D";
+  Text Frame;
+  Text Direction;  // "Local 1", "X Proj", "Y Proj" or "Z Proj"
+  double Force = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRPD_D>{Key{"Frame=", &T_FRPD_D::Frame}, Unread{"CoordSys="},
+                                               Key{"Direction=", &T_FRPD_D::Direction},
+                                               Key{"Force=", &T_FRPD_D::Force}};
+
+/// The tendon of a frame: its tension, and its drape at both ends and the middle.
+struct T_FRPT_D {
+  static constexpr Text kTable = "T_FRPT_D";
+  Text Frame;
+  double Tension = 0.0;
+  double DrapeI = 0.0;
+  double DrapeCenter = 0.0;
+  double DrapeJ = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRPT_D>{
+    Key{"Frame=", &T_FRPT_D::Frame}, Key{"Tension=", &T_FRPT_D::Tension},
+    Key{"DrapeI=", &T_FRPT_D::DrapeI}, Key{"DrapeCenter=", &T_FRPT_D::DrapeCenter},
+    Key{"DrapeJ=", &T_FRPT_D::DrapeJ}};
+
+/// The load case in which the tendon of a frame acts, and how much of it.
+struct T_FRLM_D {
+  static constexpr Text kTable = "T_FRLM_D";
+  Text Frame;
+  Text LoadCase;
+  double Multiplier = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_FRLM_D>{Key{"Frame=", &T_FRLM_D::Frame},
+                                               Key{"LoadCase=", &T_FRLM_D::LoadCase},
+                                               Key{"Multiplier=", &T_FRLM_D::Multiplier}};
+
+// ---- Target records ----
+
+/// An initial force of a beam.
+struct T_NGT_FRPD_D {
+  static constexpr std::uint32_t kBuckets = 17;
+  Text Label;
+  Text DIR;  // "AXIAL", "GX", "GY" or "GZ"; empty for a direction that the target does not have
+  double FORCE = 0.0;
+};
+
+/// Prestress of a beam.
+struct T_NGT_FRPT_D {
+  Text Label;
+  Text LTYPE = "PRE";
+  Text LoadCase;  // empty for a tendon without a multiplier
+  double TENS = 0.0;
+  double DI = 0.0;
+  double DM = 0.0;
+  double DJ = 0.0;
+};
+
+// ---- Conversion ----
+
+/// P-delta forces into initial forces.
+bool ConvertInitialForces(Conversion& run);
+
+/// Tendons into prestress.
+bool ConvertPrestress(Conversion& run);
+
+// ---- Output ----
+
+/// Writes *INIFORCE.
+bool WriteInitialForces(Conversion& run, LineWriter& out);
+
+/// Writes *PRESTRESS of a load case.
+void WritePrestress(Conversion& run, Text loadCase, LineWriter& out);
+
+}  // namespace s2k2ngt

@@ -1,0 +1,141 @@
+#include "loads/area_loads.h"
+
+#include "loads/joint_patterns.h"
+#include "plates/areas.h"
+#include "target/load_frame.h"
+
+#include <array>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+struct GlobalDirection {
+  Text Dir;
+  Text DIR;
+  Text bPROJ;
+  double Sign = 1.0;  // gravity, positive downwards in the source, is a load along -Z
+};
+
+/// A direction that is not listed is taken as Z.
+GlobalDirection DirectionOf(Text dir) {
+  constexpr std::array<GlobalDirection, 8> kDirections = {{
+      {"X", "GX", "NO", 1.0},
+      {"Y", "GY", "NO", 1.0},
+      {"Z", "GZ", "NO", 1.0},
+      {"X Proj", "GX", "YES", 1.0},
+      {"Y Proj", "GY", "YES", 1.0},
+      {"Z Proj", "GZ", "YES", 1.0},
+      {"Gravity", "GZ", "NO", -1.0},
+      {"Grav Proj", "GZ", "YES", -1.0},
+  }};
+  for (const GlobalDirection& direction : kDirections) {
+    if (direction.Dir == dir) {
+      return direction;
+    }
+  }
+  return {dir, "GZ", "NO", 1.0};
+}
+
+T_NGT_PRSL_D PlateFaceLoad(Text area, Text loadCase, Text direction, Text projected) {
+  return {.Element = area,
+          .LoadCase = loadCase,
+          .ETYP = "PLATE",
+          .LTYP = "FACE",
+          .DIR = direction,
+          .bPROJ = projected};
+}
+
+}  // namespace
+
+bool ConvertUniformLoads(Conversion& run) {
+  // Meant so: a load in a direction that the target does not have repeats the load before it on
+  // that load's area. The first in the walk has none before it, and no load case to be written in.
+  T_NGT_PRSL_D load;
+  for (const auto [key, row] : run.Source.Rows<T_ALUM_D>().Walk()) {
+    if (row.CoordSys == "GLOBAL") {
+      const GlobalDirection direction = DirectionOf(row.Dir);
+      load = PlateFaceLoad(row.Area, row.LoadCase, direction.DIR, direction.bPROJ);
+      load.PU = direction.Sign * row.UnifLoad;
+    } else if (row.CoordSys == "Local" && row.Dir == "3") {
+      load = PlateFaceLoad(row.Area, row.LoadCase, "LZ", "NO");
+      load.PU = row.UnifLoad;
+    }
+    run.Target.Table<T_NGT_PRSL_D>().Append(load);
+  }
+  return true;
+}
+
+namespace {
+
+/// Sets the corners of a pressure that goes by a joint pattern, if its area is there.
+void SetCorners(CModel& model, const T_ALSP_D& row, T_NGT_PRSL_D& load) {
+  const auto found = model.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(row.Area);
+  if (!found) {
+    return;
+  }
+  const auto pressureAt = [&](Text joint) {
+    return PatternValue(model, joint, row.JtPattern) * load.PU;
+  };
+  // The third and the fourth change places, as the nodes of the plate do.
+  const T_CNAR_D& area = found->Value;
+  load.P1 = pressureAt(area.Joint1);
+  load.P2 = pressureAt(area.Joint2);
+  load.P3 = pressureAt(area.Joint4);
+  load.P4 = pressureAt(area.Joint3);
+}
+
+}  // namespace
+
+bool ConvertSurfacePressures(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_ALSP_D>().Walk()) {
+    if (!IsTopOrBottom(row.Face)) {
+      run.Warnings.bPlatePressureLost = true;
+      continue;
+    }
+    T_NGT_PRSL_D load = PlateFaceLoad(row.Area, row.LoadCase, "LZ", "NO");
+    // A pressure presses into the area: along its axis 3 from below, against it from above.
+    load.PU = row.Face == "5" ? row.Pressure : -row.Pressure;
+    if (GoesByPattern(row.JtPattern)) {
+      SetCorners(run.Source, row, load);  // beside the uniform pressure, which stays
+    }
+    run.Target.Table<T_NGT_PRSL_D>().Append(load);
+  }
+  return true;
+}
+
+// ---- Output ----
+
+void WritePressures(Conversion& run, Text loadCase, LineWriter& out) {
+  const auto& loads = run.Target.Table<T_NGT_PRSL_D>();
+  if (loads.Empty()) {
+    return;
+  }
+  // Shown for each load case, also for one without a pressure of its own.
+  if (run.Warnings.bPlatePressureLost) {
+    run.Shown.Show("IDS_S2KV8_PLATE_SurfP_Not_Convert");
+  }
+  ElementReferences elements(run.Elements);
+  WriteLoads(out, loadCase,
+             {"*PRESSURE    ; Pressure Loads",
+              "; ELEM_LIST, CMD, ETYP, LTYP, DIR, VX, VY, VZ, bPROJ, PU, P1, P2, P3, P4, GROUP  ; "
+              "ETYP=PLATE, LTYP=FACE",
+              "; ELEM_LIST, CMD, ETYP, LTYP, iEDGE, DIR, VX, VY, VZ, PU, P1, P2, GROUP          ; "
+              "ETYP=PLATE, LTYP=EDGE",
+              "; ELEM_LIST, CMD, ETYP, iEDGE, DIR, VX, VY, VZ, PU, P1, P2, GROUP                ; "
+              "ETYP=PLANE",
+              "; ELEM_LIST, CMD, ETYP, iFACE, DIR, VX, VY, VZ, bPROJ, PU, P1, P2, P3, P4, GROUP ; "
+              "ETYP=SOLID"},
+             LoadsByKey<&T_NGT_PRSL_D::LoadCase>(loads, loadCase), [&](const T_NGT_PRSL_D& load) {
+               constexpr double kNoVector = 0.0;  // loads go along axes
+               out.WriteLine(
+                   "\t%d, PRES, %5s, %5s, %5s, %5g, %5g, %5g, %5s, %5g, %5g, %5g, %5g, %5g,\n",
+                   elements.NumberOf(load.Element, kAreaFamily), load.ETYP, load.LTYP, load.DIR,
+                   kNoVector, kNoVector, kNoVector, load.bPROJ, load.PU, load.P1, load.P2, load.P3,
+                   load.P4);
+             });
+}
+
+}  // namespace s2k2ngt

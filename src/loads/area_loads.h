@@ -1,0 +1,97 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/model.h"
+#include "source/row_grammar.h"
+#include "target/conversion.h"
+
+namespace s2k2ngt {
+
+// ---- Source rows ----
+
+/// A uniform load on an area: force per area.
+struct T_ALUM_D {
+  static constexpr Text kTable = "T_ALUM_D";
+  Text Area;
+  Text LoadCase;
+  Text CoordSys;
+  Text Dir;
+  double UnifLoad = 0.0;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_ALUM_D>{
+    Key{"Area=", &T_ALUM_D::Area}, Key{"LoadCase=", &T_ALUM_D::LoadCase},
+    Key{"CoordSys=", &T_ALUM_D::CoordSys}, Key{"Dir=", &T_ALUM_D::Dir},
+    Key{"UnifLoad=", &T_ALUM_D::UnifLoad}};
+
+/// Pressure on a face of an area.
+struct T_ALSP_D {
+  static constexpr Text kTable = "T_ALSP_D";
+  Text Area;
+  Text LoadCase;
+  Text Face;
+  double Pressure = 0.0;
+  Text JtPattern;
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_ALSP_D>{
+    Key{"Area=", &T_ALSP_D::Area}, Key{"LoadCase=", &T_ALSP_D::LoadCase},
+    Key{"Face=", &T_ALSP_D::Face}, Key{"Pressure=", &T_ALSP_D::Pressure},
+    Key{"JtPattern=", &T_ALSP_D::JtPattern}};
+
+// Loads on areas that have no place in the output.
+
+struct T_ALRT_D {  // rotation
+  static constexpr Text kTable = "T_ALRT_D";
+};
+struct T_ALUF_D {  // uniform, to frames
+  static constexpr Text kTable = "T_ALUF_D";
+};
+struct T_ALWP_D {  // wind pressure coefficients
+  static constexpr Text kTable = "T_ALWP_D";
+};
+
+template <>
+inline constexpr std::tuple kRowKeys<T_ALRT_D>{Unread{"Area="}, Unread{"LoadCase="},
+                                               Unread{"AngularBel="}};
+template <>
+inline constexpr std::tuple kRowKeys<T_ALUF_D>{Unread{"Area="},     Unread{"LoadCase="},
+                                               Unread{"CoordSys="}, Unread{"Dir="},
+                                               Unread{"UnifLoad="}, Unread{"DistType="}};
+template <>
+inline constexpr std::tuple kRowKeys<T_ALWP_D>{
+    Unread{"Area="},       Unread{"LoadCase="},   Unread{"Windward="},  Unread{"Cp="},
+    Unread{"XComponent="}, Unread{"YComponent="}, Unread{"ZComponent="}};
+
+// ---- Target records ----
+
+/// A pressure on a plate, keyed by a running number.
+struct T_NGT_PRSL_D {
+  Text Element;
+  Text LoadCase;
+  Text ETYP;
+  Text LTYP;
+  Text DIR;         // "GX", "GY", "GZ" or "LZ"
+  double PU = 0.0;  // uniform
+  double P1 = 0.0;  // at the corners, in the order of the plate's nodes
+  double P2 = 0.0;
+  double P3 = 0.0;
+  double P4 = 0.0;
+  Text bPROJ;  // "YES" for a load per projected area
+};
+
+// ---- Conversion ----
+
+bool ConvertUniformLoads(Conversion& run);
+
+/// Pressures on the two faces of areas. Those on edges are lost.
+bool ConvertSurfacePressures(Conversion& run);
+
+// ---- Output ----
+
+/// Writes *PRESSURE of a load case.
+void WritePressures(Conversion& run, Text loadCase, LineWriter& out);
+
+}  // namespace s2k2ngt

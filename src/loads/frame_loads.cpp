@@ -1,0 +1,234 @@
+#include "loads/frame_loads.h"
+
+#include "frames/elements.h"
+#include "frames/materials.h"
+#include "frames/sections.h"
+#include "target/load_frame.h"
+
+#include <array>
+#include <cmath>
+#include <unordered_map>
+#include <utility>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+/// A direction of a load on a frame. The target's axes y and z are the source's axes 3 and 2, the
+/// former turned around; and gravity, positive downwards in the source, is a load along -Z.
+struct LoadDirection {
+  Text CoordSys;
+  Text Dir;
+  Text DIR;
+  Text bPROJ;
+  double Sign = 1.0;
+};
+
+/// A direction that is not listed leaves DIR and bPROJ empty.
+LoadDirection DirectionOf(Text coordSys, Text dir) {
+  constexpr std::array<LoadDirection, 10> kDirections = {{
+      {"GLOBAL", "X", "GX", "NO", 1.0},
+      {"GLOBAL", "Y", "GY", "NO", 1.0},
+      {"GLOBAL", "Z", "GZ", "NO", 1.0},
+      {"GLOBAL", "X Proj", "GX", "YES", 1.0},
+      {"GLOBAL", "Y Proj", "GY", "YES", 1.0},
+      {"GLOBAL", "Z Proj", "GZ", "YES", 1.0},
+      {"GLOBAL", "Gravity", "GZ", "NO", -1.0},
+      {"Local", "1", "LX", "NO", 1.0},
+      {"Local", "2", "LZ", "NO", 1.0},
+      {"Local", "3", "LY", "NO", -1.0},
+  }};
+  for (const LoadDirection& direction : kDirections) {
+    if (direction.CoordSys == coordSys && direction.Dir == dir) {
+      return direction;
+    }
+  }
+  return {};
+}
+
+/// A point has no length to be projected: such directions have no like.
+LoadDirection DirectionOfPoint(Text coordSys, Text dir) {
+  const LoadDirection direction = DirectionOf(coordSys, dir);
+  return direction.bPROJ == "YES" ? LoadDirection{} : direction;
+}
+
+constexpr Text kForce = "Force";
+constexpr Text kMoment = "Moment";
+constexpr Text kRelative = "RelDist";
+constexpr Text kAbsolute = "AbsDist";
+
+/// True, and noted, when the frame has no length by which a distance could be divided.
+bool LacksLength(Conversion& run, double length) {
+  const bool lacks = length < kTolerance;
+  run.Warnings.bElemLengthZero = run.Warnings.bElemLengthZero || lacks;
+  return lacks;
+}
+
+}  // namespace
+
+bool ConvertDistributedLoads(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_FRLD_D>().Walk()) {
+    const LoadDirection direction = DirectionOf(row.CoordSys, row.Dir);
+    T_NGT_ELMB_D load{.Element = row.Frame,
+                      .TYPE = {},
+                      .DIR = direction.DIR,
+                      .LoadCase = row.LoadCase,
+                      .bPROJ = direction.bPROJ};
+    if (row.Type == kForce) {
+      load.TYPE = "UNILOAD";
+      load.P1 = direction.Sign * row.FOverLA;
+      load.P2 = direction.Sign * row.FOverLB;
+    } else if (row.Type == kMoment) {
+      load.TYPE = "UNIMOMENT";
+      load.P1 = direction.Sign * row.MOverLA;
+      load.P2 = direction.Sign * row.MOverLB;
+    }
+    if (row.DistType == kRelative) {
+      if (std::abs(row.RelDistA - row.RelDistB) < 1e-6) {
+        continue;  // a span of nothing; absolute distances are not tested for it
+      }
+      load.D1 = row.RelDistA;
+      load.D2 = row.RelDistB;
+    } else if (row.DistType == kAbsolute) {
+      const double length = ConnectivityOrLast(run.Source, row.Frame).Length;
+      if (LacksLength(run, length)) {
+        return true;
+      }
+      load.D1 = row.AbsDistA / length;
+      load.D2 = row.AbsDistB / length;
+    }
+    run.Target.Table<T_NGT_ELMB_D>().Append(load);
+  }
+  return true;
+}
+
+bool ConvertPointLoads(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_FRLP_D>().Walk()) {
+    const LoadDirection direction = DirectionOfPoint(row.CoordSys, row.Dir);
+    T_NGT_ELMB_D load{.Element = row.Frame,
+                      .TYPE = {},
+                      .DIR = direction.DIR,
+                      .LoadCase = row.LoadCase,
+                      .bPROJ = direction.bPROJ};
+    if (row.Type == kForce) {
+      load.TYPE = "CONLOAD";
+      load.P1 = direction.Sign * row.Force;
+    } else if (row.Type == kMoment) {
+      load.TYPE = "CONMOMENT";
+      load.P1 = direction.Sign * row.Moment;
+    }
+    if (row.DistType == kRelative) {
+      load.D1 = row.RelDist;
+    } else if (row.DistType == kAbsolute) {
+      const double length = ConnectivityOrLast(run.Source, row.Frame).Length;
+      if (LacksLength(run, length)) {
+        return true;
+      }
+      load.D1 = row.AbsDist / length;
+    }
+    run.Target.Table<T_NGT_ELMB_D>().Append(load);
+  }
+  return true;
+}
+
+namespace {
+
+/// Weight per length at both ends of a section.
+struct SectionWeight {
+  double AtI = 0.0;
+  double AtJ = 0.0;
+};
+
+/// Looks up the weights of sections, each worked out once.
+class SectionWeights {
+ public:
+  explicit SectionWeights(CModel& model) : m_Model(model) {}
+
+  SectionWeight Of(Text sectionName) {
+    const auto [known, isNew] = m_Known.try_emplace(sectionName);
+    if (isNew) {
+      known->second = Compute(sectionName);
+    }
+    return known->second;
+  }
+
+ private:
+  SectionWeight Compute(Text sectionName) const {
+    const auto section = m_Model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(sectionName);
+    if (!section) {
+      return {};
+    }
+    if (section->Value.Shape != kNonprismatic) {
+      const double weight = WeightOf(section->Value);
+      return {weight, weight};
+    }
+    const NonprismaticEnds ends = EndsOfNonprismatic(m_Model, sectionName);
+    return {ends.Start ? WeightOf(*ends.Start) : 0.0, ends.End ? WeightOf(*ends.End) : 0.0};
+  }
+
+  double WeightOf(Text sectionName) const {
+    const auto section = m_Model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(sectionName);
+    return section ? WeightOf(section->Value) : 0.0;
+  }
+
+  double WeightOf(const T_FRSG_D& section) const {
+    const auto material = m_Model.Rows<T_MTGN_D>().FirstWith<&T_MTGN_D::Material>(section.Material);
+    return material ? section.Area * material->Value.UnitWeight : 0.0;
+  }
+
+  CModel& m_Model;
+  std::unordered_map<Text, SectionWeight> m_Known;
+};
+
+}  // namespace
+
+bool ConvertFrameGravity(Conversion& run) {
+  SectionWeights weights(run.Source);
+  const auto& assignments = run.Source.Rows<T_FRSC_D>();
+  for (const auto [key, row] : run.Source.Rows<T_FRLG_D>().Walk()) {
+    const auto assignment = assignments.FirstWith<&T_FRSC_D::Frame>(row.Frame);
+    if (!assignment) {
+      continue;
+    }
+    const SectionWeight weight = weights.Of(assignment->Value.AnalSect);
+    const std::array<std::pair<Text, double>, 3> axes = {
+        {{"GX", row.MultiplierX}, {"GY", row.MultiplierY}, {"GZ", row.MultiplierZ}}};
+    for (const auto& [direction, multiplier] : axes) {
+      if (std::abs(multiplier) <= kTolerance) {
+        continue;
+      }
+      // The multiplier keeps its sign: it says itself which way the weight pulls.
+      run.Target.Table<T_NGT_ELMB_D>().Append({.Element = row.Frame,
+                                               .TYPE = "UNILOAD",
+                                               .DIR = direction,
+                                               .LoadCase = row.LoadCase,
+                                               .bPROJ = "NO",
+                                               .D1 = 0.0,
+                                               .P1 = multiplier * weight.AtI,
+                                               .D2 = 1.0,
+                                               .P2 = multiplier * weight.AtJ});
+    }
+  }
+  return true;
+}
+
+// ---- Output ----
+
+void WriteBeamLoads(Conversion& run, Text loadCase, LineWriter& out) {
+  ElementReferences elements(run.Elements);
+  WriteLoads(out, loadCase,
+             {"*BEAMLOAD    ; Element Beam Loads",
+              "; ELEM_LIST, CMD, TYPE, DIR, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP"},
+             LoadsByKey<&T_NGT_ELMB_D::LoadCase>(run.Target.Table<T_NGT_ELMB_D>(), loadCase),
+             [&](const T_NGT_ELMB_D& load) {
+               constexpr double kUnused = 0.0;
+               out.WriteLine("\t%d, %5s, %5s, %5s, %5s, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g,\n",
+                             elements.NumberOf(load.Element, kFrameFamily), "BEAM", load.TYPE,
+                             load.DIR, load.bPROJ, load.D1, load.P1, load.D2, load.P2, kUnused,
+                             kUnused, kUnused, kUnused);
+             });
+}
+
+}  // namespace s2k2ngt

@@ -1,0 +1,73 @@
+#include "loads/joint_loads.h"
+
+#include "joints/local_axes.h"
+#include "target/load_frame.h"
+
+#include <cmath>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+bool ConvertJointForces(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_JTLF_D>().Walk()) {
+    SixComponents f = {row.F1, row.F2, row.F3, row.M1, row.M2, row.M3};
+    // Any other system is taken as global.
+    if (row.CoordSys == "Local") {
+      f = TurnToGlobal(run.Target, row.Joint, f);
+    }
+    run.Target.Add(key, T_NGT_NDLD_D{row.Joint, row.LoadCase, f[0], f[1], f[2], f[3], f[4], f[5]});
+  }
+  return true;
+}
+
+bool ConvertGroundDisplacements(Conversion& run) {
+  // A value at the tolerance counts here, unlike elsewhere.
+  const auto flag = [](double value) { return std::abs(value) >= kTolerance ? '1' : '0'; };
+  for (const auto [key, row] : run.Source.Rows<T_JTGD_D>().Walk()) {
+    SixComponents d = {row.U1, row.U2, row.U3, row.R1, row.R2, row.R3};
+    // The target displaces a support along its node's axes, the source by this name along the
+    // global ones.
+    if (row.CoordSys == "GLOBAL") {
+      d = TurnToLocal(run.Target, row.Joint, d);
+    }
+    run.Target.Add(
+        key, T_NGT_DISP_D{row.Joint,
+                          {flag(d[0]), flag(d[1]), flag(d[2]), flag(d[3]), flag(d[4]), flag(d[5])},
+                          row.LoadCase,
+                          d[0],
+                          d[1],
+                          d[2],
+                          d[3],
+                          d[4],
+                          d[5]});
+  }
+  return true;
+}
+
+// ---- Output ----
+
+void WriteNodalLoads(Conversion& run, Text loadCase, LineWriter& out) {
+  WriteLoads(
+      out, loadCase, {"*CONLOAD    ; Nodal Loads", ";NODE_LIST, FX, FY, FZ, MX, MY, MZ, GROUP"},
+      LoadsInWalkOrder<&T_NGT_NDLD_D::LoadCase>(run.Target.Table<T_NGT_NDLD_D>(), loadCase),
+      [&](const T_NGT_NDLD_D& load) {
+        out.WriteLine("\t%d, %5g, %5g, %5g, %5g, %5g, %5g,\n", run.Target.NodeNumber(load.Joint),
+                      load.FX, load.FY, load.FZ, load.MX, load.MY, load.MZ);
+      });
+}
+
+void WriteSupportDisplacements(Conversion& run, Text loadCase, LineWriter& out) {
+  WriteLoads(out, loadCase,
+             {"*SPDISP    ; Specified Displacement of Supports",
+              "; NODE_LIST, FLAG, Dx, Dy, Dz, Rx, Ry, Rz, GROUP"},
+             LoadsInWalkOrder<&T_NGT_DISP_D::LoadCase>(run.Target.Table<T_NGT_DISP_D>(), loadCase),
+             [&](const T_NGT_DISP_D& load) {
+               out.WriteLine("\t%d, %5s, %5g, %5g, %5g, %5g, %5g, %5g,\n",
+                             run.Target.NodeNumber(load.Joint),
+                             Text(load.FLAG.data(), load.FLAG.size()), load.Dx, load.Dy, load.Dz,
+                             load.Rx, load.Ry, load.Rz);
+             });
+}
+
+}  // namespace s2k2ngt

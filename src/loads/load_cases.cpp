@@ -1,0 +1,96 @@
+#include "loads/load_cases.h"
+
+#include "loads/wind_seismic.h"
+#include "target/load_frame.h"
+
+#include <cmath>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+constexpr Text kNoAutoLoad = "None";
+
+/// Sets type and bAuto of a load case from the load of its name, if there is one. A load that names
+/// a code that is not converted is automatic all the same, and so is one that names none.
+void MapLoadType(Conversion& run, T_NGT_STLC_D& loadCase) {
+  const auto found = run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(loadCase.LCNAME);
+  if (!found) {
+    return;
+  }
+  const T_LDCS_D& load = found->Value;
+  const bool isAutomatic = load.AutoLoad != kNoAutoLoad;
+  if (load.DesignType == "DEAD") {
+    loadCase.LCTYPE = "D";
+  } else if (load.DesignType == "LIVE") {
+    loadCase.LCTYPE = "L";
+  } else if (load.DesignType == "WIND") {
+    loadCase.LCTYPE = kWindType;
+    loadCase.bAuto = isAutomatic;
+    if (isAutomatic) {
+      ConvertAutoWind(run, loadCase.LCNAME, load.AutoLoad);
+    }
+  } else if (load.DesignType == "SNOW") {
+    loadCase.LCTYPE = "S";
+  } else if (load.DesignType == "QUAKE") {
+    loadCase.LCTYPE = kSeismicType;
+    loadCase.bAuto = isAutomatic;
+    if (isAutomatic) {
+      ConvertAutoSeismic(run, loadCase.LCNAME, load.AutoLoad);
+    }
+  } else {
+    loadCase.LCTYPE = "USER";
+  }
+}
+
+}  // namespace
+
+void ConvertStaticCase(Conversion& run, Text analysisCase) {
+  const auto& rows = run.Source.Rows<T_STC1_D>();
+  for (const std::uint32_t position : rows.AllWith<&T_STC1_D::Case>(analysisCase)) {
+    const auto [key, row] = rows.AtWalk(position);
+    T_NGT_STLC_D loadCase{.LCNAME = row.LoadName, .LCTYPE = {}};
+    MapLoadType(run, loadCase);
+    run.Target.Add(key, loadCase);
+  }
+}
+
+bool ConvertSelfWeights(Conversion& run) {
+  for (const auto [key, load] : run.Source.Rows<T_LDCS_D>().Walk()) {
+    if (std::abs(load.SelfWtMult) <= kTolerance) {
+      continue;
+    }
+    // Shown for each such load, whether or not a load case comes of it.
+    run.Shown.Show("IDS_S2KV8_FRAM_GRAV_Not_Convert");
+    // A positive multiplier of the source pulls downwards.
+    run.Target.Table<T_NGT_FRSW_D>().Append({.LoadCase = load.LoadCase, .Z = -load.SelfWtMult});
+  }
+  return true;
+}
+
+// ---- Output ----
+
+void WriteLoadCases(Conversion& run, LineWriter& out) {
+  if (run.Warnings.bLoadCaseLost) {
+    run.Shown.Show("IDS_S2KV8_STLC_Not_Convert");
+  }
+  out.WriteLine("%s\n", "*STLDCASE    ; Static Load Cases");
+  out.WriteLine("; LCNAME, LCTYPE, DESC\n");
+  for (const auto [key, loadCase] : run.Target.Table<T_NGT_STLC_D>().Walk()) {
+    out.WriteLine("\t%s, %5s, \n", loadCase.LCNAME, loadCase.LCTYPE);
+  }
+  out.WriteLine("\n");
+}
+
+void WriteSelfWeights(Conversion& run, Text loadCase, LineWriter& out) {
+  // The command has no line of its own: its name stands in each line of data.
+  WriteLoads(out, loadCase, {"; *SELFWEIGHT, X, Y, Z, GROUP"},
+             LoadsInWalkOrder<&T_NGT_FRSW_D::LoadCase>(run.Target.Table<T_NGT_FRSW_D>(), loadCase),
+             [&](const T_NGT_FRSW_D& weight) {
+               out.WriteLine("\t*SELFWEIGHT, %5g, %5g, %5g,\n", weight.X, weight.Y, weight.Z);
+             });
+}
+
+}  // namespace s2k2ngt

@@ -1,0 +1,217 @@
+#include "loads/wind_seismic.h"
+
+#include "common/numbers.h"
+#include "target/load_frame.h"
+
+#include <array>
+#include <cmath>
+#include <initializer_list>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+namespace {
+
+/// "SC" becomes "Sc". Of a longer word the first two letters are taken.
+Text SoilProfile(Text soilType, TextStore& texts) {
+  if (soilType.size() < 2) {
+    return soilType;
+  }
+  const std::array profile = {soilType[0], ToLower(soilType[1])};
+  return texts.Keep({profile.data(), profile.size()});
+}
+
+T_NGT_SUB7_D Convert(const T_SUB7_D& source, TextStore& texts) {
+  T_NGT_SUB7_D target{.LoadCase = source.LoadCase,
+                      .SST = source.SourceType,
+                      .ZF = ParseReal(source.Z),
+                      .CD = source.SourceDist,
+                      .IF = source.I};
+  if (!source.SoilType.empty()) {
+    target.SPT = SoilProfile(source.SoilType, texts);
+  }
+  // Ct times the height to the power 0: the height plays no part, and this is meant.
+  const double period = source.PeriodCalc == "User" ? source.UserT : source.Ct;
+  if (source.Dir == "X") {
+    target.SFY = 0.0;
+    target.PX = period;
+    target.NCX = source.R;
+  } else {
+    target.SFX = 0.0;
+    target.PY = period;
+    target.NCY = source.R;
+  }
+  return target;
+}
+
+T_NGT_SNBC_D Convert(const T_SNBC_D& source, TextStore& /*texts*/) {
+  T_NGT_SNBC_D target{.LoadCase = source.LoadCase,
+                      .AZ = ParseInteger(source.Za),
+                      .VZ = ParseInteger(source.Zv),
+                      .ZVR = source.V,
+                      .IF = source.I,
+                      .FF = source.F};
+  // The user's period, whether or not the source goes by it, and this is meant.
+  if (source.Dir == "X") {
+    target.SFY = 0.0;
+    target.PAX = source.UserT;
+    target.PCX = source.UserT;
+    target.FMFX = source.R;
+  } else {
+    target.SFX = 0.0;
+    target.PAY = source.UserT;
+    target.PCY = source.UserT;
+    target.FMFY = source.R;
+  }
+  return target;
+}
+
+T_NGT_WUB7_D Convert(const T_WUB7_D& source, TextStore& /*texts*/) {
+  return {.LoadCase = source.LoadCase,
+          .EC = source.Exposure,
+          .BWS = source.WindSpeed,
+          .IF = source.I,
+          .MRH = source.MaxZ};
+}
+
+T_NGT_WIBC_D Convert(const T_WAS8_D& source, TextStore& /*texts*/) {
+  return {.LoadCase = source.LoadCase,
+          .EC = source.Exposure,
+          .BWS = source.WindSpeed,
+          .IF = source.I,
+          .WDF = source.Kd,
+          .MRH = source.MaxZ,
+          .GFX = source.GustFactor,
+          .GFY = source.GustFactor};
+}
+
+T_NGT_WNBC_D Convert(const T_WNBC_D& source, TextStore& /*texts*/) {
+  // The velocity pressure is half the density of air times the square of the speed.
+  return {.LoadCase = source.LoadCase,
+          .EC = {},
+          .RWS = std::sqrt(source.VelPressure / 0.00064645),
+          .GEF = source.Cg};
+}
+
+template <class Source>
+void ConvertLoad(Conversion& run, Text load) {
+  if (const auto row = run.Source.Rows<Source>().template FirstWith<&Source::LoadCase>(load)) {
+    const auto target = Convert(row->Value, run.Target.Texts());
+    run.Target.Table<std::remove_cv_t<decltype(target)>>().Append(target);
+  }
+}
+
+/// A code as loads name it. The names of wind codes have a blank, those of earthquake codes none.
+struct Code {
+  Text Name;
+  void (*ConvertLoad)(Conversion& run, Text load);
+};
+
+constexpr std::array kWindCodes = std::to_array<Code>({{"UBC 97", ConvertLoad<T_WUB7_D>},
+                                                       {"ASCE 7-98", ConvertLoad<T_WAS8_D>},
+                                                       {"NBCC 95", ConvertLoad<T_WNBC_D>}});
+
+constexpr std::array kSeismicCodes =
+    std::to_array<Code>({{"UBC97", ConvertLoad<T_SUB7_D>}, {"NBCC95", ConvertLoad<T_SNBC_D>}});
+
+template <std::size_t Count>
+void ConvertByCode(const std::array<Code, Count>& codes, Conversion& run, Text load, Text name) {
+  for (const Code& code : codes) {
+    if (code.Name == name) {
+      code.ConvertLoad(run, load);
+    }
+  }
+}
+
+}  // namespace
+
+void ConvertAutoWind(Conversion& run, Text load, Text code) {
+  ConvertByCode(kWindCodes, run, load, code);
+}
+
+void ConvertAutoSeismic(Conversion& run, Text load, Text code) {
+  ConvertByCode(kSeismicCodes, run, load, code);
+}
+
+// ---- Output ----
+
+namespace {
+
+/// Writes the block of one code for a load case. Meant so: a load case of another code gets the
+/// closing line of the last load case that has this one, without an opening.
+template <class Parameters, class WriteParameters>
+void WriteCode(Conversion& run, Text loadCase, LineWriter& out, std::initializer_list<Text> head,
+               WriteParameters writeParameters) {
+  const auto found =
+      run.Target.Table<Parameters>().template FirstOrLastWith<&Parameters::LoadCase>(loadCase);
+  if (!found) {
+    return;
+  }
+  const Parameters& parameters = found->Value;
+  if (parameters.LoadCase == loadCase) {
+    WriteUseOf(out, loadCase);
+    for (const Text line : head) {
+      out.WriteLine("%s\n", line);
+    }
+    writeParameters(parameters);
+  }
+  out.WriteLine(";End of data for load case [%s]\n\n", parameters.LoadCase);
+}
+
+}  // namespace
+
+void WriteSeismic(Conversion& run, Text loadCase, LineWriter& out) {
+  constexpr Text kCommand = "*SEIS    ; Static Seismic Loads";
+  WriteCode<T_NGT_SUB7_D>(
+      run, loadCase, out,
+      {kCommand, "; CODE=CODE, SFX, SFY, ECCX, ECCY, DESC              ; line 1",
+       "; [UBC1997] : SPT, ZF, SST, CD, IF, PX, PY, NCX, NCY ; line 2"},
+      [&](const T_NGT_SUB7_D& p) {
+        out.WriteLine("\tCODE=UBC1997, %5g, %5g, %5s, %5s,%5s\n", p.SFX, p.SFY, p.ECCX, p.ECCY, "");
+        out.WriteLine("\t\t%s, %5g, %5s, %5g, %5g, %5g, %5g, %5g, %5g\n\n", p.SPT, p.ZF, p.SST,
+                      p.CD, p.IF, p.PX, p.PY, p.NCX, p.NCY);
+      });
+  WriteCode<T_NGT_SNBC_D>(
+      run, loadCase, out,
+      {kCommand, "; CODE=CODE, SFX, SFY, ECCX, ECCY, DESC                          ; line 1",
+       "; [NBC1995] : ZVR, AZ, VZ, IF, FF, PAX, PAY, PCX, PCY, FMFX, FMFY; line 2"},
+      [&](const T_NGT_SNBC_D& p) {
+        out.WriteLine("\tCODE=NBC1995, %5g, %5g, %5s, %5s, %5s\n", p.SFX, p.SFY, p.ECCX, p.ECCY,
+                      "");
+        out.WriteLine("\t\t%g, %5d, %5d, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n\n", p.ZVR, p.AZ,
+                      p.VZ, p.IF, p.FF, p.PAX, p.PAY, p.PCX, p.PCY, p.FMFX, p.FMFY);
+      });
+}
+
+void WriteWind(Conversion& run, Text loadCase, LineWriter& out) {
+  constexpr Text kCommand = "*WIND    ; Wind Loads";
+  WriteCode<T_NGT_WUB7_D>(run, loadCase, out,
+                          {kCommand, "; CODE=CODE, SFX, SFY, DESC                   ; line 1",
+                           // an empty line stands behind its second comment, and behind no other
+                           "; [UBC1997]   : iMETHOD, EC, BWS, IF, PC, MRH ; line 2", ""},
+                          [&](const T_NGT_WUB7_D& p) {
+                            out.WriteLine("\tCODE=UBC1997, %5g, %5g, %5s\n", p.SFX, p.SFY, "");
+                            out.WriteLine("\t\t%d, %5s, %5g, %5g, %5g, %5g\n\n", p.iMETHOD, p.EC,
+                                          p.BWS, p.IF, p.PC, p.MRH);
+                          });
+  WriteCode<T_NGT_WIBC_D>(
+      run, loadCase, out,
+      {kCommand, "; CODE=CODE, SFX, SFY, DESC                                 ; line 1",
+       "; [IBC2000]   : iPROC, BWS, IF, EC, WDF, MRH, iST, GFX, GFY ; line 2"},
+      [&](const T_NGT_WIBC_D& p) {
+        out.WriteLine("\tCODE=IBC2000, %5g, %5g, %5s\n", p.SFX, p.SFY, "");
+        out.WriteLine("\t\t%d, %5g, %5g, %5s, %5g, %5g, %2d, %5g, %5g, NO, , , , , , NO, 1\n\n",
+                      p.iPROC, p.BWS, p.IF, p.EC, p.WDF, p.MRH, p.iST, p.GFX, p.GFY);
+      });
+  WriteCode<T_NGT_WNBC_D>(run, loadCase, out,
+                          {kCommand, "; CODE=CODE, SFX, SFY, DESC                       ; line 1",
+                           "; [NBC1995]   : iPROC, RWS, GEF, CGX, CGY, BH, EC ; line 2"},
+                          [&](const T_NGT_WNBC_D& p) {
+                            out.WriteLine("\tCODE=NBC1995, %5g, %5g, %5s\n", p.SFX, p.SFY, "");
+                            out.WriteLine("\t\t%d, %5g, %5g, , , 0, %5s, NO, , , , , , NO, 1\n\n",
+                                          p.iPROC, p.RWS, p.GEF, p.EC);
+                          });
+}
+
+}  // namespace s2k2ngt
