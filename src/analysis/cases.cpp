@@ -2,7 +2,9 @@
 
 #include "loads/load_cases.h"
 
+#include <algorithm>
 #include <array>
+#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -10,25 +12,38 @@ namespace s2k2ngt {
 
 namespace {
 
+/// What the walk over the analysis cases carries from one to the next.
+struct CaseWalk {
+  Conversion& Run;
+  /// Linear static cases that make no difference when their name is met again.
+  std::unordered_set<Text> SettledStaticCases;
+};
+
+void ConvertLinearStatic(CaseWalk& walk, const T_ANAL_D& analysis) {
+  if (!walk.SettledStaticCases.contains(analysis.Case) &&
+      !ConvertStaticCase(walk.Run, analysis.Case)) {
+    walk.SettledStaticCases.insert(analysis.Case);
+  }
+}
+
 /// A kind of analysis case.
 struct Kind {
   Text Type;
-  void (*Convert)(Conversion& run, const T_ANAL_D& analysis);
+  void (*Convert)(CaseWalk& walk, const T_ANAL_D& analysis);
 };
 
 constexpr std::array kKinds = std::to_array<Kind>({
-    {"LinStatic",
-     [](Conversion& run, const T_ANAL_D& analysis) { ConvertStaticCase(run, analysis.Case); }},
+    {"LinStatic", ConvertLinearStatic},
 });
 
 }  // namespace
 
 bool ConvertAnalysisCases(Conversion& run) {
+  CaseWalk walk{run, {}};
   for (const auto [key, analysis] : run.Source.Rows<T_ANAL_D>().Walk()) {
-    for (const Kind& kind : kKinds) {
-      if (kind.Type == analysis.Type) {
-        kind.Convert(run, analysis);
-      }
+    const auto* const kind = std::ranges::find(kKinds, analysis.Type, &Kind::Type);
+    if (kind != kKinds.end()) {
+      kind->Convert(walk, analysis);
     }
   }
   return true;

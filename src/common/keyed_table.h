@@ -152,26 +152,17 @@ class CKeyedTable {
     return first ? first : LastWalked();
   }
 
-  /// The walk positions, ascending, of all entries whose `Field` equals `value`.
+  /// The walk positions, ascending, of all entries whose `Field` equals `value`. Valid until the
+  /// next Insert; so also the keys.
   template <auto Field, class Value>
   std::span<const std::uint32_t> AllWith(const Value& value) const {
-    const auto& index = IndexOf<GroupIndex<Field>>();
-    const auto found = index.Positions.find(FieldValue<Field>(value));
-    if (found == index.Positions.end()) {
-      return {};
-    }
-    return found->second;
+    return IndexOf<WalkGroupIndex<Field>>().Of(value);
   }
 
   /// The keys, ascending, of all entries whose `Field` equals `value`.
   template <auto Field, class Value>
-  std::vector<std::uint32_t> KeysWith(const Value& value) const {
-    std::vector<std::uint32_t> keys;
-    for (const std::uint32_t position : AllWith<Field>(value)) {
-      keys.push_back(AtWalk(position).Key);
-    }
-    std::ranges::sort(keys);
-    return keys;
+  std::span<const std::uint32_t> KeysWith(const Value& value) const {
+    return IndexOf<KeyGroupIndex<Field>>().Of(value);
   }
 
  private:
@@ -213,26 +204,55 @@ class CKeyedTable {
     std::uint64_t Replacements = 0;
   };
 
-  /// Walk positions of all entries by the value of a field.
+  /// All entries by the value of a field, made anew after a change.
   template <auto Field>
-  struct GroupIndex final : Index {
+  struct GroupIndex : Index {
     void BringUpToDate(const CKeyedTable& table) override {
       if (Indexed == table.Count() && Replacements == table.m_Replacements) {
         return;
       }
-      table.ComputeWalk();
-      Positions.clear();
-      for (std::size_t position = 0; position < table.m_Walk.size(); ++position) {
-        Positions[std::invoke(Field, table.AtWalk(position).Value)].push_back(
-            static_cast<std::uint32_t>(position));
-      }
+      Groups.clear();
+      Fill(table);
       Indexed = table.Count();
       Replacements = table.m_Replacements;
     }
+    virtual void Fill(const CKeyedTable& table) = 0;
 
-    std::unordered_map<FieldValue<Field>, std::vector<std::uint32_t>> Positions;
+    std::span<const std::uint32_t> Of(const FieldValue<Field>& value) const {
+      const auto found = Groups.find(value);
+      if (found == Groups.end()) {
+        return {};
+      }
+      return found->second;
+    }
+
+    std::unordered_map<FieldValue<Field>, std::vector<std::uint32_t>> Groups;
     std::size_t Indexed = 0;
     std::uint64_t Replacements = 0;
+  };
+
+  /// By their walk positions.
+  template <auto Field>
+  struct WalkGroupIndex final : GroupIndex<Field> {
+    void Fill(const CKeyedTable& table) override {
+      table.ComputeWalk();
+      for (std::uint32_t position = 0; position < table.m_Walk.size(); ++position) {
+        this->Groups[std::invoke(Field, table.AtWalk(position).Value)].push_back(position);
+      }
+    }
+  };
+
+  /// By their keys.
+  template <auto Field>
+  struct KeyGroupIndex final : GroupIndex<Field> {
+    void Fill(const CKeyedTable& table) override {
+      for (std::uint32_t slot = 0; slot < table.Count(); ++slot) {
+        this->Groups[std::invoke(Field, table.m_Records[slot])].push_back(table.KeyOfSlot(slot));
+      }
+      for (auto& [value, keys] : this->Groups) {
+        std::ranges::sort(keys);
+      }
+    }
   };
 
   template <class WantedIndex>

@@ -17,6 +17,11 @@ T_CNFR_D ConnectivityOrLast(CModel& model, Text frame) {
   return found ? found->Value : T_CNFR_D{};
 }
 
+std::optional<Text> SectionNameOf(CModel& model, Text frame) {
+  const auto assignment = model.Rows<T_FRSC_D>().FirstWith<&T_FRSC_D::Frame>(frame);
+  return assignment ? std::optional(assignment->Value.AnalSect) : std::nullopt;
+}
+
 // ---- Conversion ----
 
 namespace {

@@ -42,6 +42,9 @@ inline constexpr std::tuple kRowKeys<T_FRSC_D>{
     Key{"Frame=", &T_FRSC_D::Frame},       Unread{"SectionType="}, Unread{"AutoSelect="},
     Key{"AnalSect=", &T_FRSC_D::AnalSect}, Unread{"DesignSect="},  Unread{"MatProp="}};
 
+/// The name of a frame's section; nothing for a frame without an assignment row.
+std::optional<Text> SectionNameOf(CModel& model, Text frame);
+
 /// Typical local axes of a frame. Mirrored sections go over unmirrored.
 struct T_FRTP_D {
   static constexpr Text kTable = "T_FRTP_D";

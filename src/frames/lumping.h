@@ -8,7 +8,8 @@
 namespace s2k2ngt {
 
 // What the source spreads along a frame and the target has at nodes alone: springs and added
-// masses. Half of each goes to either end.
+// masses. Half of a mass goes to either end. Of a spring one half alone goes over, as one point
+// spring that names both ends; the message about it says so.
 
 // ---- Source rows ----
 

@@ -2,6 +2,7 @@
 
 #include "joints/masses.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <optional>
@@ -73,50 +74,47 @@ std::optional<T_NGT_RLNK_D> CollectNodes(Conversion& run, Text constraint, Maste
   return link;
 }
 
-/// The link of a constraint about an axis.
-template <std::derived_from<ConstraintByAxis> Record>
-std::optional<T_NGT_RLNK_D> LinkOf(Conversion& run, Text constraint, Master master) {
-  const auto& definitions = run.Source.Rows<Record>();
-  std::optional<T_NGT_RLNK_D> link = CollectNodes(run, constraint, master);
-  if (!link || definitions.Empty()) {
-    return std::nullopt;
+/// The directions that a definition about an axis links; nothing for another axis.
+std::optional<Text> DirectionsOf(Conversion& run, const ConstraintByAxis& definition) {
+  if (definition.Axis == "X") {
+    return "011100";
   }
-  const auto definition = definitions.template FirstWith<&ConstraintByAxis::Name>(constraint);
-  if (!definition) {
-    return link;
+  if (definition.Axis == "Y") {
+    return "101010";
   }
-  const Text axis = definition->Value.Axis;
-  if (axis == "X") {
-    link->DOF = "011100";
-  } else if (axis == "Y") {
-    link->DOF = "101010";
-  } else if (axis == "Z") {
-    link->DOF = "110001";
-  } else {
-    run.Target.bConstraintAutoAxis = true;
-    return std::nullopt;
+  if (definition.Axis == "Z") {
+    return "110001";
   }
-  return link;
+  run.Target.bConstraintAutoAxis = true;
+  return std::nullopt;
 }
 
-/// The link of a constraint of named directions.
-template <std::derived_from<ConstraintByFlags> Record>
+/// The directions that a definition names.
+std::optional<Text> DirectionsOf(Conversion& run, const ConstraintByFlags& definition) {
+  std::string directions;
+  for (const bool linked :
+       {definition.UX, definition.UY, definition.UZ, definition.RX, definition.RY, definition.RZ}) {
+    directions += linked ? '1' : '0';
+  }
+  return run.Target.Texts().Keep(directions);
+}
+
+/// The link of a constraint whose definitions are of this record. Without a definition of its name
+/// it links no direction; without any definition there is no link.
+template <class Definition>
 std::optional<T_NGT_RLNK_D> LinkOf(Conversion& run, Text constraint, Master master) {
-  const auto& definitions = run.Source.Rows<Record>();
   std::optional<T_NGT_RLNK_D> link = CollectNodes(run, constraint, master);
+  const auto& definitions = run.Source.Rows<Definition>();
   if (!link || definitions.Empty()) {
     return std::nullopt;
   }
-  const auto definition = definitions.template FirstWith<&ConstraintByFlags::Name>(constraint);
-  if (!definition) {
-    return link;
+  if (const auto found = definitions.template FirstWith<&Definition::Name>(constraint)) {
+    const std::optional<Text> directions = DirectionsOf(run, found->Value);
+    if (!directions) {
+      return std::nullopt;
+    }
+    link->DOF = *directions;
   }
-  const ConstraintByFlags& flags = definition->Value;
-  std::string dof;
-  for (const bool linked : {flags.UX, flags.UY, flags.UZ, flags.RX, flags.RY, flags.RZ}) {
-    dof += linked ? '1' : '0';
-  }
-  link->DOF = run.Target.Texts().Keep(dof);
   return link;
 }
 
@@ -128,9 +126,11 @@ struct Kind {
   bool Repeated;  // Beam and Body: see RepeatedLinks
 };
 
+constexpr Text kBody = "Body";
+
 constexpr std::array kKinds = std::to_array<Kind>({
     {"Beam", LinkOf<T_CDBM_D>, Master::FirstJoint, true},
-    {"Body", LinkOf<T_CDBD_D>, Master::FirstJoint, true},
+    {kBody, LinkOf<T_CDBD_D>, Master::FirstJoint, true},
     {"Diaphragm", LinkOf<T_CDDP_D>, Master::JointWithMass, false},
     {"Equal", LinkOf<T_CDEL_D>, Master::FirstJoint, false},
     {"Line", LinkOf<T_CDLN_D>, Master::FirstJoint, false},
@@ -139,34 +139,28 @@ constexpr std::array kKinds = std::to_array<Kind>({
     {"Weld", LinkOf<T_CDWL_D>, Master::FirstJoint, false},
 });
 
-/// How often the link of a Beam or Body constraint is made. Meant so: a constraint is held against
-/// each of its kind before it, and a link is made for each that differs. So the first and the
-/// second of a kind make one link each, the third two, the fourth three. Both kinds are held
-/// against the names of Body constraints.
+/// How often the link of a Beam or Body constraint is made: the first and the second of a kind make
+/// one link each, the third two, the fourth three, and this is meant. Each constraint is held
+/// against those of its kind before it, as far as there are Body constraints of the same numbers,
+/// and makes a link for each that differs; a constraint without a name differs from none as the
+/// second of its kind, and in a model without Body constraints.
 class RepeatedLinks {
  public:
   std::size_t CountFor(Text type, Text constraint) {
-    std::vector<Text>& handled = type == "Body" ? m_Bodies : m_Beams;
-    if (handled.empty()) {
-      handled.push_back(constraint);
+    std::size_t& handled = type == kBody ? m_Bodies : m_Beams;
+    if (handled == 0) {
+      handled = 1;
       return 1;
     }
-    // Where there is no Body of a number, that of the number before stands, at first no name.
-    std::size_t count = 0;
-    Text compared;
-    for (std::size_t index = 0; index < handled.size(); ++index) {
-      compared = index < m_Bodies.size() ? m_Bodies[index] : compared;
-      count += constraint != compared ? 1 : 0;
+    if (constraint.empty() && (handled == 1 || m_Bodies == 0)) {
+      return 0;
     }
-    if (count > 0) {
-      handled.push_back(constraint);
-    }
-    return count;
+    return handled++;
   }
 
  private:
-  std::vector<Text> m_Beams;
-  std::vector<Text> m_Bodies;
+  std::size_t m_Beams = 0;
+  std::size_t m_Bodies = 0;
 };
 
 }  // namespace

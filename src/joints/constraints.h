@@ -32,9 +32,9 @@ struct ConstraintByAxis {
 };
 
 template <std::derived_from<ConstraintByAxis> Record>
-inline constexpr std::tuple kRowKeys<Record>{
-    Key{"Name=", &ConstraintByAxis::Name}, Unread{"CoordSys="},
-    Key{"Axis=", &ConstraintByAxis::Axis}, Unread{"MultiLevel="}};
+inline constexpr std::tuple kRowKeys<Record>{Key{"Name=", &ConstraintByAxis::Name},
+                                             Unread{"CoordSys="},
+                                             Key{"Axis=", &ConstraintByAxis::Axis}};
 
 struct T_CDBM_D : ConstraintByAxis {  // beam
   static constexpr Text kTable = "T_CDBM_D";
@@ -42,6 +42,10 @@ struct T_CDBM_D : ConstraintByAxis {  // beam
 struct T_CDDP_D : ConstraintByAxis {  // diaphragm
   static constexpr Text kTable = "T_CDDP_D";
 };
+template <>
+inline constexpr std::tuple kRowKeys<T_CDDP_D>{Key{"Name=", &T_CDDP_D::Name}, Unread{"CoordSys="},
+                                               Key{"Axis=", &T_CDDP_D::Axis},
+                                               Unread{"MultiLevel="}};
 struct T_CDPL_D : ConstraintByAxis {  // plate
   static constexpr Text kTable = "T_CDPL_D";
 };

@@ -154,7 +154,8 @@ T_NGT_LCMX_D MatrixFromVectors(const T_NGT_LOCL_D& axes) {
 }
 
 /// The rows of the matrix table while they are made: appended, and found again by their joint to be
-/// written over. A row that has lost its joint is no longer found by it.
+/// written over. A row that has lost its joint is no longer found by it. The table itself is made
+/// when all rows are there, as it would have to index all its labels anew after each that is lost.
 class MatrixRows {
  public:
   void Append(const T_NGT_LCMX_D& matrix) {
@@ -291,9 +292,8 @@ bool WriteLocalAxes(Conversion& run, LineWriter& out) {
       out.WriteLine("\t%d, %5d, %5g, %5g, %5g\n", iNode, axes.iMETHOD, axes.ANGLE_x, axes.ANGLE_y,
                     axes.ANGLE_z);
     } else if (axes.iMETHOD == 3) {
-      const auto& [v1, v2] = std::pair(axes.V1, axes.V2);
-      out.WriteLine("\t%d, %5d, %5g, %5g, %5g, %5g, %5g, %5g\n", iNode, axes.iMETHOD, v1[0], v1[1],
-                    v1[2], v2[0], v2[1], v2[2]);
+      out.WriteLine("\t%d, %5d, %5g, %5g, %5g, %5g, %5g, %5g\n", iNode, axes.iMETHOD, axes.V1[0],
+                    axes.V1[1], axes.V1[2], axes.V2[0], axes.V2[1], axes.V2[2]);
     }
   }
   out.WriteLine("\n");

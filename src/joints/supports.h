@@ -97,8 +97,8 @@ struct T_NGT_BNDR_D {
 };
 
 /// A point spring. Those along frames and on areas name all their joints in one text, and this is
-/// meant: with joint labels of digits the number is that of the first joint, which takes it all;
-/// with other labels it is 0.
+/// meant: with joint labels of digits the number is that of the first joint, and with other labels
+/// it is 0.
 struct T_NGT_NSPR_D {
   Text NODE;
   double SDx = 0.0;

@@ -5,6 +5,7 @@
 #include "target/load_frame.h"
 
 #include <array>
+#include <utility>
 
 namespace s2k2ngt {
 
@@ -12,31 +13,31 @@ namespace s2k2ngt {
 
 namespace {
 
-struct GlobalDirection {
-  Text Dir;
+/// Where a load of a global direction goes.
+struct LoadDirection {
   Text DIR;
   Text bPROJ;
   double Sign = 1.0;  // gravity, positive downwards in the source, is a load along -Z
 };
 
 /// A direction that is not listed is taken as Z.
-GlobalDirection DirectionOf(Text dir) {
-  constexpr std::array<GlobalDirection, 8> kDirections = {{
-      {"X", "GX", "NO", 1.0},
-      {"Y", "GY", "NO", 1.0},
-      {"Z", "GZ", "NO", 1.0},
-      {"X Proj", "GX", "YES", 1.0},
-      {"Y Proj", "GY", "YES", 1.0},
-      {"Z Proj", "GZ", "YES", 1.0},
-      {"Gravity", "GZ", "NO", -1.0},
-      {"Grav Proj", "GZ", "YES", -1.0},
+LoadDirection DirectionOf(Text dir) {
+  constexpr std::array<std::pair<Text, LoadDirection>, 8> kDirections = {{
+      {"X", {"GX", "NO", 1.0}},
+      {"Y", {"GY", "NO", 1.0}},
+      {"Z", {"GZ", "NO", 1.0}},
+      {"X Proj", {"GX", "YES", 1.0}},
+      {"Y Proj", {"GY", "YES", 1.0}},
+      {"Z Proj", {"GZ", "YES", 1.0}},
+      {"Gravity", {"GZ", "NO", -1.0}},
+      {"Grav Proj", {"GZ", "YES", -1.0}},
   }};
-  for (const GlobalDirection& direction : kDirections) {
-    if (direction.Dir == dir) {
+  for (const auto& [name, direction] : kDirections) {
+    if (name == dir) {
       return direction;
     }
   }
-  return {dir, "GZ", "NO", 1.0};
+  return {"GZ", "NO", 1.0};
 }
 
 T_NGT_PRSL_D PlateFaceLoad(Text area, Text loadCase, Text direction, Text projected) {
@@ -56,7 +57,7 @@ bool ConvertUniformLoads(Conversion& run) {
   T_NGT_PRSL_D load;
   for (const auto [key, row] : run.Source.Rows<T_ALUM_D>().Walk()) {
     if (row.CoordSys == "GLOBAL") {
-      const GlobalDirection direction = DirectionOf(row.Dir);
+      const LoadDirection direction = DirectionOf(row.Dir);
       load = PlateFaceLoad(row.Area, row.LoadCase, direction.DIR, direction.bPROJ);
       load.PU = direction.Sign * row.UnifLoad;
     } else if (row.CoordSys == "Local" && row.Dir == "3") {

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -16,33 +17,37 @@ namespace s2k2ngt {
 
 namespace {
 
-/// A direction of a load on a frame. The target's axes y and z are the source's axes 3 and 2, the
-/// former turned around; and gravity, positive downwards in the source, is a load along -Z.
+/// Where a load on a frame goes.
 struct LoadDirection {
-  Text CoordSys;
-  Text Dir;
   Text DIR;
   Text bPROJ;
   double Sign = 1.0;
 };
 
-/// A direction that is not listed leaves DIR and bPROJ empty.
+/// The target's axes y and z are the source's axes 3 and 2, the former turned around; and gravity,
+/// positive downwards in the source, is a load along -Z. A direction that is not listed leaves DIR
+/// and bPROJ empty.
 LoadDirection DirectionOf(Text coordSys, Text dir) {
-  constexpr std::array<LoadDirection, 10> kDirections = {{
-      {"GLOBAL", "X", "GX", "NO", 1.0},
-      {"GLOBAL", "Y", "GY", "NO", 1.0},
-      {"GLOBAL", "Z", "GZ", "NO", 1.0},
-      {"GLOBAL", "X Proj", "GX", "YES", 1.0},
-      {"GLOBAL", "Y Proj", "GY", "YES", 1.0},
-      {"GLOBAL", "Z Proj", "GZ", "YES", 1.0},
-      {"GLOBAL", "Gravity", "GZ", "NO", -1.0},
-      {"Local", "1", "LX", "NO", 1.0},
-      {"Local", "2", "LZ", "NO", 1.0},
-      {"Local", "3", "LY", "NO", -1.0},
+  struct Entry {
+    Text CoordSys;
+    Text Dir;
+    LoadDirection Direction;
+  };
+  constexpr std::array<Entry, 10> kDirections = {{
+      {"GLOBAL", "X", {"GX", "NO", 1.0}},
+      {"GLOBAL", "Y", {"GY", "NO", 1.0}},
+      {"GLOBAL", "Z", {"GZ", "NO", 1.0}},
+      {"GLOBAL", "X Proj", {"GX", "YES", 1.0}},
+      {"GLOBAL", "Y Proj", {"GY", "YES", 1.0}},
+      {"GLOBAL", "Z Proj", {"GZ", "YES", 1.0}},
+      {"GLOBAL", "Gravity", {"GZ", "NO", -1.0}},
+      {"Local", "1", {"LX", "NO", 1.0}},
+      {"Local", "2", {"LZ", "NO", 1.0}},
+      {"Local", "3", {"LY", "NO", -1.0}},
   }};
-  for (const LoadDirection& direction : kDirections) {
-    if (direction.CoordSys == coordSys && direction.Dir == dir) {
-      return direction;
+  for (const Entry& entry : kDirections) {
+    if (entry.CoordSys == coordSys && entry.Dir == dir) {
+      return entry.Direction;
     }
   }
   return {};
@@ -59,11 +64,26 @@ constexpr Text kMoment = "Moment";
 constexpr Text kRelative = "RelDist";
 constexpr Text kAbsolute = "AbsDist";
 
-/// True, and noted, when the frame has no length by which a distance could be divided.
-bool LacksLength(Conversion& run, double length) {
-  const bool lacks = length < kTolerance;
-  run.Warnings.bElemLengthZero = run.Warnings.bElemLengthZero || lacks;
-  return lacks;
+/// The length by which the row's absolute distances are divided. Nothing, and noted, for a frame
+/// without a length.
+template <class Row>
+std::optional<double> LengthToDivideBy(Conversion& run, const Row& row) {
+  const double length = ConnectivityOrLast(run.Source, row.Frame).Length;
+  if (length < kTolerance) {
+    run.Warnings.bElemLengthZero = true;
+    return std::nullopt;
+  }
+  return length;
+}
+
+/// A beam load, still without its kind, its places and its values.
+template <class Row>
+T_NGT_ELMB_D BeamLoad(const Row& row, const LoadDirection& direction) {
+  return {.Element = row.Frame,
+          .TYPE = {},
+          .DIR = direction.DIR,
+          .LoadCase = row.LoadCase,
+          .bPROJ = direction.bPROJ};
 }
 
 }  // namespace
@@ -71,11 +91,7 @@ bool LacksLength(Conversion& run, double length) {
 bool ConvertDistributedLoads(Conversion& run) {
   for (const auto [key, row] : run.Source.Rows<T_FRLD_D>().Walk()) {
     const LoadDirection direction = DirectionOf(row.CoordSys, row.Dir);
-    T_NGT_ELMB_D load{.Element = row.Frame,
-                      .TYPE = {},
-                      .DIR = direction.DIR,
-                      .LoadCase = row.LoadCase,
-                      .bPROJ = direction.bPROJ};
+    T_NGT_ELMB_D load = BeamLoad(row, direction);
     if (row.Type == kForce) {
       load.TYPE = "UNILOAD";
       load.P1 = direction.Sign * row.FOverLA;
@@ -92,12 +108,12 @@ bool ConvertDistributedLoads(Conversion& run) {
       load.D1 = row.RelDistA;
       load.D2 = row.RelDistB;
     } else if (row.DistType == kAbsolute) {
-      const double length = ConnectivityOrLast(run.Source, row.Frame).Length;
-      if (LacksLength(run, length)) {
+      const std::optional<double> length = LengthToDivideBy(run, row);
+      if (!length) {
         return true;
       }
-      load.D1 = row.AbsDistA / length;
-      load.D2 = row.AbsDistB / length;
+      load.D1 = row.AbsDistA / *length;
+      load.D2 = row.AbsDistB / *length;
     }
     run.Target.Table<T_NGT_ELMB_D>().Append(load);
   }
@@ -107,11 +123,7 @@ bool ConvertDistributedLoads(Conversion& run) {
 bool ConvertPointLoads(Conversion& run) {
   for (const auto [key, row] : run.Source.Rows<T_FRLP_D>().Walk()) {
     const LoadDirection direction = DirectionOfPoint(row.CoordSys, row.Dir);
-    T_NGT_ELMB_D load{.Element = row.Frame,
-                      .TYPE = {},
-                      .DIR = direction.DIR,
-                      .LoadCase = row.LoadCase,
-                      .bPROJ = direction.bPROJ};
+    T_NGT_ELMB_D load = BeamLoad(row, direction);
     if (row.Type == kForce) {
       load.TYPE = "CONLOAD";
       load.P1 = direction.Sign * row.Force;
@@ -122,11 +134,11 @@ bool ConvertPointLoads(Conversion& run) {
     if (row.DistType == kRelative) {
       load.D1 = row.RelDist;
     } else if (row.DistType == kAbsolute) {
-      const double length = ConnectivityOrLast(run.Source, row.Frame).Length;
-      if (LacksLength(run, length)) {
+      const std::optional<double> length = LengthToDivideBy(run, row);
+      if (!length) {
         return true;
       }
-      load.D1 = row.AbsDist / length;
+      load.D1 = row.AbsDist / *length;
     }
     run.Target.Table<T_NGT_ELMB_D>().Append(load);
   }
@@ -186,17 +198,16 @@ class SectionWeights {
 
 bool ConvertFrameGravity(Conversion& run) {
   SectionWeights weights(run.Source);
-  const auto& assignments = run.Source.Rows<T_FRSC_D>();
   for (const auto [key, row] : run.Source.Rows<T_FRLG_D>().Walk()) {
-    const auto assignment = assignments.FirstWith<&T_FRSC_D::Frame>(row.Frame);
-    if (!assignment) {
+    const std::optional<Text> section = SectionNameOf(run.Source, row.Frame);
+    if (!section) {
       continue;
     }
-    const SectionWeight weight = weights.Of(assignment->Value.AnalSect);
+    const SectionWeight weight = weights.Of(*section);
     const std::array<std::pair<Text, double>, 3> axes = {
         {{"GX", row.MultiplierX}, {"GY", row.MultiplierY}, {"GZ", row.MultiplierZ}}};
     for (const auto& [direction, multiplier] : axes) {
-      if (std::abs(multiplier) <= kTolerance) {
+      if (!IsAboveTolerance(multiplier)) {
         continue;
       }
       // The multiplier keeps its sign: it says itself which way the weight pulls.

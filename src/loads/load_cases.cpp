@@ -3,8 +3,6 @@
 #include "loads/wind_seismic.h"
 #include "target/load_frame.h"
 
-#include <cmath>
-
 namespace s2k2ngt {
 
 // ---- Conversion ----
@@ -13,12 +11,13 @@ namespace {
 
 constexpr Text kNoAutoLoad = "None";
 
-/// Sets type and bAuto of a load case from the load of its name, if there is one. A load that names
-/// a code that is not converted is automatic all the same, and so is one that names none.
-void MapLoadType(Conversion& run, T_NGT_STLC_D& loadCase) {
+/// Sets type and bAuto of a load case from the load of its name, if there is one. A load of a code
+/// that is not converted is automatic all the same, and so is one that does not state its
+/// AutoLoad=. True when parameters of wind or earthquake came of it.
+bool MapLoadType(Conversion& run, T_NGT_STLC_D& loadCase) {
   const auto found = run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(loadCase.LCNAME);
   if (!found) {
-    return;
+    return false;
   }
   const T_LDCS_D& load = found->Value;
   const bool isAutomatic = load.AutoLoad != kNoAutoLoad;
@@ -29,37 +28,37 @@ void MapLoadType(Conversion& run, T_NGT_STLC_D& loadCase) {
   } else if (load.DesignType == "WIND") {
     loadCase.LCTYPE = kWindType;
     loadCase.bAuto = isAutomatic;
-    if (isAutomatic) {
-      ConvertAutoWind(run, loadCase.LCNAME, load.AutoLoad);
-    }
+    return isAutomatic && ConvertAutoWind(run, loadCase.LCNAME, load.AutoLoad);
   } else if (load.DesignType == "SNOW") {
     loadCase.LCTYPE = "S";
   } else if (load.DesignType == "QUAKE") {
     loadCase.LCTYPE = kSeismicType;
     loadCase.bAuto = isAutomatic;
-    if (isAutomatic) {
-      ConvertAutoSeismic(run, loadCase.LCNAME, load.AutoLoad);
-    }
+    return isAutomatic && ConvertAutoSeismic(run, loadCase.LCNAME, load.AutoLoad);
   } else {
     loadCase.LCTYPE = "USER";
   }
+  return false;
 }
 
 }  // namespace
 
-void ConvertStaticCase(Conversion& run, Text analysisCase) {
+bool ConvertStaticCase(Conversion& run, Text analysisCase) {
   const auto& rows = run.Source.Rows<T_STC1_D>();
+  auto& loadCases = run.Target.Table<T_NGT_STLC_D>();
+  bool differs = false;
   for (const std::uint32_t position : rows.AllWith<&T_STC1_D::Case>(analysisCase)) {
     const auto [key, row] = rows.AtWalk(position);
     T_NGT_STLC_D loadCase{.LCNAME = row.LoadName, .LCTYPE = {}};
-    MapLoadType(run, loadCase);
-    run.Target.Add(key, loadCase);
+    differs = MapLoadType(run, loadCase) || differs || loadCases.Find(key) == nullptr;
+    loadCases.Insert(key, loadCase);
   }
+  return differs;
 }
 
 bool ConvertSelfWeights(Conversion& run) {
   for (const auto [key, load] : run.Source.Rows<T_LDCS_D>().Walk()) {
-    if (std::abs(load.SelfWtMult) <= kTolerance) {
+    if (!IsAboveTolerance(load.SelfWtMult)) {
       continue;
     }
     // Shown for each such load, whether or not a load case comes of it.

@@ -39,6 +39,9 @@ inline constexpr std::tuple kRowKeys<T_STC1_D>{Key{"Case=", &T_STC1_D::Case}, Un
 
 // ---- Target records ----
 
+inline constexpr Text kWindType = "W";     ///< of a load case that may have *WIND
+inline constexpr Text kSeismicType = "E";  ///< of a load case that may have *SEIS
+
 /// A static load case.
 struct T_NGT_STLC_D {
   Text LCNAME;
@@ -58,8 +61,9 @@ struct T_NGT_FRSW_D {
 // ---- Conversion ----
 
 /// The loads of a linear static analysis case into load cases, with the wind and earthquake
-/// parameters of those that are computed by a code.
-void ConvertStaticCase(Conversion& run, Text analysisCase);
+/// parameters of those that are computed by a code. True when the output differs for it: a case of
+/// the same name that is met again makes no difference when it made none before.
+bool ConvertStaticCase(Conversion& run, Text analysisCase);
 
 /// Self-weight multipliers into self weights.
 bool ConvertSelfWeights(Conversion& run);

@@ -8,8 +8,8 @@
 #include "target/load_frame.h"
 
 #include <array>
-#include <cmath>
 #include <cstddef>
+#include <optional>
 
 namespace s2k2ngt {
 
@@ -19,10 +19,11 @@ namespace {
 
 /// Degrees Celsius of a temperature of the source file. A unit that is neither "C" nor "F" gives 0.
 double ToCelsius(const Units& units, double temperature) {
-  if (units.Temperature == "C") {
+  const Text unit = TrimLeft(TrimRight(units.Temperature));
+  if (unit == "C") {
     return temperature;
   }
-  if (units.Temperature == "F") {
+  if (unit == "F") {
     return (temperature - 32) * 5 / 9;
   }
   return 0.0;
@@ -114,12 +115,11 @@ class TemperatureStep {
 
 /// The section of a frame; one without depths when it is not there.
 T_FRSG_D SectionOf(CModel& model, Text frame) {
-  const auto assignment = model.Rows<T_FRSC_D>().FirstWith<&T_FRSC_D::Frame>(frame);
-  if (!assignment) {
+  const std::optional<Text> name = SectionNameOf(model, frame);
+  if (!name) {
     return {};
   }
-  const auto section =
-      model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(assignment->Value.AnalSect);
+  const auto section = model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(*name);
   return section ? section->Value : T_FRSG_D{};
 }
 
@@ -189,19 +189,13 @@ bool ConvertSolidTemperatures(Conversion& run) {
 
 // ---- Output ----
 
-namespace {
-
-bool CountsAsTemperature(double temperature) { return std::abs(temperature) > kTolerance; }
-
-}  // namespace
-
 void WriteElementTemperatures(Conversion& run, Text loadCase, LineWriter& out) {
   ElementReferences elements(run.Elements);
   WriteLoads(out, loadCase, {"*ELTEMPER    ; Element Temperatures", "; ELEM_LIST, TEMPER, GROUP"},
              LoadsByKey<&T_NGT_ELMT_D::LoadCase>(run.Target.Table<T_NGT_ELMT_D>(), loadCase),
              [&](const T_NGT_ELMT_D& load) {
                const std::int32_t iEl = elements.NumberOf(load.Element, load.Family);
-               if (CountsAsTemperature(load.TEMPER)) {
+               if (IsAboveTolerance(load.TEMPER)) {
                  out.WriteLine("\t%d, %5g,\n", iEl, load.TEMPER);
                }
              });
@@ -211,7 +205,7 @@ void WriteNodalTemperatures(Conversion& run, Text loadCase, LineWriter& out) {
   WriteLoads(out, loadCase, {"*NDTEMPER    ; Nodal Temperatures", "; NODE_LIST, TEMPER, GROUP"},
              LoadsInWalkOrder<&T_NGT_NDTM_D::LoadCase>(run.Target.Table<T_NGT_NDTM_D>(), loadCase),
              [&](const T_NGT_NDTM_D& load) {
-               if (CountsAsTemperature(load.TEMPER)) {
+               if (IsAboveTolerance(load.TEMPER)) {
                  out.WriteLine("\t%d, %5g,\n", run.Target.NodeNumber(load.Joint), load.TEMPER);
                }
              });

@@ -3,9 +3,11 @@
 #include "common/numbers.h"
 #include "target/load_frame.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <initializer_list>
+#include <type_traits>
 
 namespace s2k2ngt {
 
@@ -94,18 +96,40 @@ T_NGT_WNBC_D Convert(const T_WNBC_D& source, TextStore& /*texts*/) {
           .GEF = source.Cg};
 }
 
-template <class Source>
-void ConvertLoad(Conversion& run, Text load) {
-  if (const auto row = run.Source.Rows<Source>().template FirstWith<&Source::LoadCase>(load)) {
-    const auto target = Convert(row->Value, run.Target.Texts());
-    run.Target.Table<std::remove_cv_t<decltype(target)>>().Append(target);
+/// The first key that falls into the last bucket of a table: a walk that has met it ends there
+/// whatever is appended.
+consteval std::uint32_t FirstKeyOfLastBucket(std::uint32_t bucketCount) {
+  std::uint32_t key = 1;
+  while (BucketOf(key, bucketCount) != bucketCount - 1) {
+    ++key;
   }
+  return key;
+}
+
+/// True when the parameters made a difference. Each time that a load is met its parameters are
+/// appended, though the first are the ones that are written. Those behind them decide by which load
+/// a walk ends, until that is settled.
+template <class Source>
+bool ConvertLoad(Conversion& run, Text load) {
+  const auto row = run.Source.Rows<Source>().template FirstWith<&Source::LoadCase>(load);
+  if (!row) {
+    return false;
+  }
+  const auto target = Convert(row->Value, run.Target.Texts());
+  using Target = std::remove_cv_t<decltype(target)>;
+  auto& table = run.Target.Table<Target>();
+  if (table.Count() >= FirstKeyOfLastBucket(Target::kBuckets) &&
+      table.template FirstWith<&Target::LoadCase>(load)) {
+    return false;
+  }
+  table.Append(target);
+  return true;
 }
 
 /// A code as loads name it. The names of wind codes have a blank, those of earthquake codes none.
 struct Code {
   Text Name;
-  void (*ConvertLoad)(Conversion& run, Text load);
+  bool (*ConvertLoad)(Conversion& run, Text load);
 };
 
 constexpr std::array kWindCodes = std::to_array<Code>({{"UBC 97", ConvertLoad<T_WUB7_D>},
@@ -116,22 +140,19 @@ constexpr std::array kSeismicCodes =
     std::to_array<Code>({{"UBC97", ConvertLoad<T_SUB7_D>}, {"NBCC95", ConvertLoad<T_SNBC_D>}});
 
 template <std::size_t Count>
-void ConvertByCode(const std::array<Code, Count>& codes, Conversion& run, Text load, Text name) {
-  for (const Code& code : codes) {
-    if (code.Name == name) {
-      code.ConvertLoad(run, load);
-    }
-  }
+bool ConvertByCode(const std::array<Code, Count>& codes, Conversion& run, Text load, Text name) {
+  const auto* const code = std::ranges::find(codes, name, &Code::Name);
+  return code != codes.end() && code->ConvertLoad(run, load);
 }
 
 }  // namespace
 
-void ConvertAutoWind(Conversion& run, Text load, Text code) {
-  ConvertByCode(kWindCodes, run, load, code);
+bool ConvertAutoWind(Conversion& run, Text load, Text code) {
+  return ConvertByCode(kWindCodes, run, load, code);
 }
 
-void ConvertAutoSeismic(Conversion& run, Text load, Text code) {
-  ConvertByCode(kSeismicCodes, run, load, code);
+bool ConvertAutoSeismic(Conversion& run, Text load, Text code) {
+  return ConvertByCode(kSeismicCodes, run, load, code);
 }
 
 // ---- Output ----

@@ -167,11 +167,9 @@ inline constexpr std::tuple kRowKeys<T_WNBC_D>{Key{"LoadCase=", &T_WNBC_D::LoadC
 
 // ---- Target records ----
 
-// Keyed by running numbers. SFX and SFY are 1 for a direction in which the load acts, 0 for the
-// other. Accidental eccentricities are not taken over: ECCX and ECCY are always "POS".
-
-inline constexpr Text kWindType = "W";     ///< LCTYPE of a load case with *WIND
-inline constexpr Text kSeismicType = "E";  ///< LCTYPE of a load case with *SEIS
+// Keyed by running numbers. SFX and SFY are 1 for a direction in which the load acts; an earthquake
+// acts in one of them. Accidental eccentricities are not taken over: ECCX and ECCY are always
+// "POS".
 
 struct T_NGT_SUB7_D {
   static constexpr std::uint32_t kBuckets = 17;
@@ -254,11 +252,11 @@ struct T_NGT_WNBC_D {
 // ---- Conversion ----
 
 /// The parameters of a wind load, by the code that the load names. A code without a like and a load
-/// without parameters convert nothing.
-void ConvertAutoWind(Conversion& run, Text load, Text code);
+/// without parameters convert nothing. True when the output differs for it.
+bool ConvertAutoWind(Conversion& run, Text load, Text code);
 
 /// The parameters of an earthquake load, likewise.
-void ConvertAutoSeismic(Conversion& run, Text load, Text code);
+bool ConvertAutoSeismic(Conversion& run, Text load, Text code);
 
 // ---- Output ----
 

@@ -4,19 +4,13 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
+#include <unordered_map>
 
 namespace s2k2ngt {
 
 // ---- Conversion ----
 
 namespace {
-
-/// The joints of a link. Meant so: a link that is not there has those of the last link of the walk.
-T_CNLK_D ConnectivityOrLastLink(CModel& model, Text link) {
-  const auto found = model.Rows<T_CNLK_D>().FirstOrLastWith<&T_CNLK_D::Link>(link);
-  return found ? found->Value : T_CNLK_D{};
-}
 
 double AngleOfLink(CModel& model, Text link) {
   const auto typical = model.Rows<T_LLCT_D>().FirstWith<&T_LLCT_D::Link>(link);
@@ -64,32 +58,53 @@ void TakeLinearDirection(const T_LPLN_D& row, T_NGT_ELNK_D& link) {
   }
 }
 
-void ConvertElasticLink(Conversion& run, const T_SMLA_D& summary) {
-  if (run.Source.Rows<T_CNLK_D>().Empty()) {
-    return;
+/// Sets the joints and, where the link has axes of its own, the angle; false in a model without
+/// connectivity of links. Meant so: a link that is not there has the joints of the last link of the
+/// walk.
+template <class Link>
+bool SetEnds(CModel& model, const T_SMLA_D& summary, Link& link) {
+  const auto joints = model.Rows<T_CNLK_D>().FirstOrLastWith<&T_CNLK_D::Link>(summary.Link);
+  if (!joints) {
+    return false;
   }
-  const T_CNLK_D joints = ConnectivityOrLastLink(run.Source, summary.Link);
-  T_NGT_ELNK_D link{.iNODE1 = joints.JointI, .iNODE2 = joints.JointJ};
+  link.iNODE1 = joints->Value.JointI;
+  link.iNODE2 = joints->Value.JointJ;
   if (summary.LocalAxes) {
-    link.ANGLE = AngleOfLink(run.Source, summary.Link);
+    link.ANGLE = AngleOfLink(model, summary.Link);
   }
-  const auto& directions = run.Source.Rows<T_LPLN_D>();
-  for (const std::uint32_t position : directions.AllWith<&T_LPLN_D::Link>(summary.LinkProp)) {
+  return true;
+}
+
+/// An elastic link with the values of a linear property, still without its ends.
+T_NGT_ELNK_D ElasticLinkOf(CModel& model, Text property) {
+  T_NGT_ELNK_D link;
+  const auto& directions = model.Rows<T_LPLN_D>();
+  for (const std::uint32_t position : directions.AllWith<&T_LPLN_D::Link>(property)) {
     TakeLinearDirection(directions.AtWalk(position).Value, link);
   }
-  run.Target.Table<T_NGT_ELNK_D>().Append(link);
+  return link;
+}
+
+/// The elastic links of linear properties, each worked out once.
+using ElasticLinks = std::unordered_map<Text, T_NGT_ELNK_D>;
+
+void ConvertElasticLink(Conversion& run, const T_SMLA_D& summary, ElasticLinks& ofProperties) {
+  const auto [known, isNew] = ofProperties.try_emplace(summary.LinkProp);
+  if (isNew) {
+    known->second = ElasticLinkOf(run.Source, summary.LinkProp);
+  }
+  T_NGT_ELNK_D link = known->second;
+  if (SetEnds(run.Source, summary, link)) {
+    run.Target.Table<T_NGT_ELNK_D>().Append(link);
+  }
 }
 
 void ConvertNonlinearLink(Conversion& run, const T_SMLA_D& summary) {
-  if (run.Source.Rows<T_CNLK_D>().Empty()) {
-    return;
+  T_NGT_NLNK_D link;
+  link.PROP = summary.LinkProp;
+  if (SetEnds(run.Source, summary, link)) {
+    run.Target.Table<T_NGT_NLNK_D>().Append(link);
   }
-  const T_CNLK_D joints = ConnectivityOrLastLink(run.Source, summary.Link);
-  T_NGT_NLNK_D link{.PROP = summary.LinkProp, .iNODE1 = joints.JointI, .iNODE2 = joints.JointJ};
-  if (summary.LocalAxes) {
-    link.ANGLE = AngleOfLink(run.Source, summary.Link);
-  }
-  run.Target.Table<T_NGT_NLNK_D>().Append(link);
 }
 
 // Places of a property's directions.
@@ -226,22 +241,32 @@ bool IsLost(Text linkType) {
   return linkType == "MultiLinear" || linkType == "Plastic (Kinematic)";
 }
 
+T_NGT_NLPR_D PropertyOf(CModel& model, Text name, Text linkType) {
+  T_NGT_NLPR_D property;
+  const auto* const kind = std::ranges::find(kPropertyKinds, linkType, &PropertyKind::LinkType);
+  if (kind != kPropertyKinds.end()) {
+    kind->TakeDirections(model, name, kind->TYPE, property);
+  }
+  if (property.TYPE == kDamper) {
+    property.bRIGDBR = "YES";
+  }
+  return property;
+}
+
 void ConvertProperties(Conversion& run) {
+  auto& properties = run.Target.Table<T_NGT_NLPR_D>();
+  // Of rows that repeat a property the first works it out.
+  std::unordered_map<QualifiedLabel, std::uint32_t> keys;
   for (const auto [key, row] : run.Source.Rows<T_LPGN_D>().Walk()) {
     if (row.LinkType == kLinear || IsLost(row.LinkType)) {
       continue;
     }
-    T_NGT_NLPR_D property;
-    const auto* const kind =
-        std::ranges::find(kPropertyKinds, row.LinkType, &PropertyKind::LinkType);
-    if (kind != kPropertyKinds.end()) {
-      kind->TakeDirections(run.Source, row.Link, kind->TYPE, property);
-    }
-    if (property.TYPE == kDamper) {
-      property.bRIGDBR = "YES";
-    }
+    const auto newKey = static_cast<std::uint32_t>(properties.Count()) + 1;
+    const auto [known, isNew] = keys.try_emplace({row.Link, row.LinkType}, newKey);
+    T_NGT_NLPR_D property =
+        isNew ? PropertyOf(run.Source, row.Link, row.LinkType) : *properties.Find(known->second);
     property.TW = row.Weight;
-    run.Target.Table<T_NGT_NLPR_D>().Append(property);
+    properties.Append(property);
   }
 }
 
@@ -252,11 +277,12 @@ bool ConvertLinks(Conversion& run) {
   if (links.Empty()) {
     return true;
   }
+  ElasticLinks ofProperties;
   for (const auto [key, link] : links.Walk()) {
     if (link.LinkJoint == "SingleJoint") {
       run.Warnings.bSingleJointLink = true;
     } else if (link.LinkType == kLinear) {
-      ConvertElasticLink(run, link);
+      ConvertElasticLink(run, link, ofProperties);
     } else if (!IsLost(link.LinkType)) {
       ConvertNonlinearLink(run, link);
     }

@@ -8,7 +8,8 @@
 namespace s2k2ngt {
 
 // What the source spreads over an area and the target has at nodes alone: springs and added masses.
-// A quarter of each goes to each of four corners, also on a triangle.
+// A quarter of a mass goes to each of four corners, also on a triangle. Of a spring one quarter
+// alone goes over, as one point spring that names all corners; the message about it says so.
 
 // ---- Source rows ----
 

@@ -6,6 +6,8 @@
 #include "target/line_writer.h"
 #include "target/ngt_model.h"
 
+#include <cmath>
+
 namespace s2k2ngt {
 
 /// What the stages found that could not be carried over as it stood. The writer of the section
@@ -43,6 +45,7 @@ struct Conversion {
 
 /// Below this absolute value a number of the source file counts as zero.
 inline constexpr double kTolerance = 1e-15;
+inline bool IsAboveTolerance(double value) { return std::abs(value) > kTolerance; }
 
 /// A stage of the conversion, or a step of one: true when done, false when it failed.
 using StageFunction = bool (*)(Conversion& run);

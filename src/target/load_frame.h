@@ -4,8 +4,9 @@
 #include "common/text.h"
 #include "target/line_writer.h"
 
+#include <cstdint>
 #include <initializer_list>
-#include <vector>
+#include <ranges>
 
 namespace s2k2ngt {
 
@@ -18,27 +19,24 @@ namespace s2k2ngt {
 //   	1,     0,     0,   -10,     0,     0,     0,
 //   ;End of data for load case [DEAD]
 //
-// The tables are grouped by load case when the first case is written, so that all cases together
-// cost one pass over the loads.
+// A table is grouped by load case when the first case is written, so that the cases together cost
+// one pass over it.
 
 /// The loads of a case in walk order.
 template <auto LoadCase, class Load>
-std::vector<const Load*> LoadsInWalkOrder(const CKeyedTable<Load>& loads, Text loadCase) {
-  std::vector<const Load*> found;
-  for (const std::uint32_t position : loads.template AllWith<LoadCase>(loadCase)) {
-    found.push_back(&loads.AtWalk(position).Value);
-  }
-  return found;
+auto LoadsInWalkOrder(const CKeyedTable<Load>& loads, Text loadCase) {
+  return loads.template AllWith<LoadCase>(loadCase) |
+         std::views::transform([&loads](std::uint32_t position) -> const Load& {
+           return loads.AtWalk(position).Value;
+         });
 }
 
 /// The loads of a case in the order of their keys.
 template <auto LoadCase, class Load>
-std::vector<const Load*> LoadsByKey(const CKeyedTable<Load>& loads, Text loadCase) {
-  std::vector<const Load*> found;
-  for (const std::uint32_t key : loads.template KeysWith<LoadCase>(loadCase)) {
-    found.push_back(loads.Find(key));
-  }
-  return found;
+auto LoadsByKey(const CKeyedTable<Load>& loads, Text loadCase) {
+  return loads.template KeysWith<LoadCase>(loadCase) |
+         std::views::transform(
+             [&loads](std::uint32_t key) -> const Load& { return *loads.Find(key); });
 }
 
 /// Opens the use of a load case.
@@ -48,9 +46,9 @@ inline void WriteUseOf(LineWriter& out, Text loadCase) {
 
 /// Writes the loads of a case in their frame; nothing at all when there are none. `head` is the
 /// command line and the comments behind it.
-template <class Load, class WriteLoad>
+template <class Loads, class WriteLoad>
 void WriteLoads(LineWriter& out, Text loadCase, std::initializer_list<Text> head,
-                const std::vector<const Load*>& loads, WriteLoad writeLoad) {
+                const Loads& loads, WriteLoad writeLoad) {
   if (loads.empty()) {
     return;
   }
@@ -58,8 +56,8 @@ void WriteLoads(LineWriter& out, Text loadCase, std::initializer_list<Text> head
   for (const Text line : head) {
     out.WriteLine("%s\n", line);
   }
-  for (const Load* load : loads) {
-    writeLoad(*load);
+  for (const auto& load : loads) {
+    writeLoad(load);
   }
   out.WriteLine(";End of data for load case [%s]\n", loadCase);
   out.WriteLine("\n");
