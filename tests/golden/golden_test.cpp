@@ -48,7 +48,8 @@ TEST_P(GoldenConversion, GivesTheExpectedBytesAndMessages) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, GoldenConversion,
-                         testing::Values("portal_frame", "office_building", "alphanumeric_labels"),
+                         testing::Values("portal_frame", "office_building", "alphanumeric_labels",
+                                         "isolated_foundation"),
                          [](const auto& example) { return example.param; });
 
 }  // namespace
