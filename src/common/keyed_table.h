@@ -249,6 +249,9 @@ class CKeyedTable {
       for (std::uint32_t slot = 0; slot < table.Count(); ++slot) {
         this->Groups[std::invoke(Field, table.m_Records[slot])].push_back(table.KeyOfSlot(slot));
       }
+      if (table.m_Keys.empty()) {
+        return;  // the keys came in order
+      }
       for (auto& [value, keys] : this->Groups) {
         std::ranges::sort(keys);
       }

@@ -76,11 +76,11 @@ bool WriteInitialForces(Conversion& run, LineWriter& out) {
 
 void WritePrestress(Conversion& run, Text loadCase, LineWriter& out) {
   ElementReferences elements(run.Elements);
-  WriteLoads(
+  WriteLoadsByKey<&T_NGT_FRPT_D::LoadCase>(
       out, loadCase,
-      {"*PRESTRESS    ; Prestress Beam Loads", "; ELEM_LIST, LTYPE, TENS, DI, DM, DJ, GROUP"},
-      LoadsByKey<&T_NGT_FRPT_D::LoadCase>(run.Target.Table<T_NGT_FRPT_D>(), loadCase),
-      [&](const T_NGT_FRPT_D& load) {
+      "*PRESTRESS    ; Prestress Beam Loads\n"
+      "; ELEM_LIST, LTYPE, TENS, DI, DM, DJ, GROUP\n",
+      run.Target.Table<T_NGT_FRPT_D>(), [&](const T_NGT_FRPT_D& load) {
         out.WriteLine("\t%d, %5s, %5g, %5g, %5g, %5g,\n",
                       elements.NumberOf(load.Label, kFrameFamily), load.LTYPE, load.TENS, load.DI,
                       load.DM, load.DJ);

@@ -171,7 +171,7 @@ class MatrixRows {
       return;
     }
     const WalkPlace first = *places.begin();
-    m_Rows[first.Key() - 1] = matrix;
+    m_Rows[KeyOf(first) - 1] = matrix;
     if (matrix.Label != joint) {
       places.erase(places.begin());
       m_RowsOfJoint[matrix.Label].insert(first);
@@ -187,16 +187,12 @@ class MatrixRows {
 
  private:
   /// Orders rows as a walk meets them: by bucket, and within it the newest first.
-  struct WalkPlace {
-    std::uint32_t Bucket;
-    std::int64_t NegatedKey;
-    auto operator<=>(const WalkPlace&) const = default;
-    std::size_t Key() const { return static_cast<std::size_t>(-NegatedKey); }
-  };
+  using WalkPlace = std::pair<std::uint32_t, std::int64_t>;
   static WalkPlace PlaceOf(std::size_t key) {
     return {BucketOf(static_cast<std::uint32_t>(key), T_NGT_LCMX_D::kBuckets),
             -static_cast<std::int64_t>(key)};
   }
+  static std::size_t KeyOf(WalkPlace place) { return static_cast<std::size_t>(-place.second); }
 
   std::vector<T_NGT_LCMX_D> m_Rows;  // by key, from 1
   std::unordered_map<Text, std::set<WalkPlace>> m_RowsOfJoint;

@@ -119,24 +119,24 @@ void WritePressures(Conversion& run, Text loadCase, LineWriter& out) {
     run.Shown.Show("IDS_S2KV8_PLATE_SurfP_Not_Convert");
   }
   ElementReferences elements(run.Elements);
-  WriteLoads(out, loadCase,
-             {"*PRESSURE    ; Pressure Loads",
-              "; ELEM_LIST, CMD, ETYP, LTYP, DIR, VX, VY, VZ, bPROJ, PU, P1, P2, P3, P4, GROUP  ; "
-              "ETYP=PLATE, LTYP=FACE",
-              "; ELEM_LIST, CMD, ETYP, LTYP, iEDGE, DIR, VX, VY, VZ, PU, P1, P2, GROUP          ; "
-              "ETYP=PLATE, LTYP=EDGE",
-              "; ELEM_LIST, CMD, ETYP, iEDGE, DIR, VX, VY, VZ, PU, P1, P2, GROUP                ; "
-              "ETYP=PLANE",
-              "; ELEM_LIST, CMD, ETYP, iFACE, DIR, VX, VY, VZ, bPROJ, PU, P1, P2, P3, P4, GROUP ; "
-              "ETYP=SOLID"},
-             LoadsByKey<&T_NGT_PRSL_D::LoadCase>(loads, loadCase), [&](const T_NGT_PRSL_D& load) {
-               constexpr double kNoVector = 0.0;  // loads go along axes
-               out.WriteLine(
-                   "\t%d, PRES, %5s, %5s, %5s, %5g, %5g, %5g, %5s, %5g, %5g, %5g, %5g, %5g,\n",
-                   elements.NumberOf(load.Element, kAreaFamily), load.ETYP, load.LTYP, load.DIR,
-                   kNoVector, kNoVector, kNoVector, load.bPROJ, load.PU, load.P1, load.P2, load.P3,
-                   load.P4);
-             });
+  WriteLoadsByKey<&T_NGT_PRSL_D::LoadCase>(
+      out, loadCase,
+      "*PRESSURE    ; Pressure Loads\n"
+      "; ELEM_LIST, CMD, ETYP, LTYP, DIR, VX, VY, VZ, bPROJ, PU, P1, P2, P3, P4, GROUP  ; "
+      "ETYP=PLATE, LTYP=FACE\n"
+      "; ELEM_LIST, CMD, ETYP, LTYP, iEDGE, DIR, VX, VY, VZ, PU, P1, P2, GROUP          ; "
+      "ETYP=PLATE, LTYP=EDGE\n"
+      "; ELEM_LIST, CMD, ETYP, iEDGE, DIR, VX, VY, VZ, PU, P1, P2, GROUP                ; "
+      "ETYP=PLANE\n"
+      "; ELEM_LIST, CMD, ETYP, iFACE, DIR, VX, VY, VZ, bPROJ, PU, P1, P2, P3, P4, GROUP ; "
+      "ETYP=SOLID\n",
+      loads, [&](const T_NGT_PRSL_D& load) {
+        constexpr double kNoVector = 0.0;  // loads go along axes
+        out.WriteLine("\t%d, PRES, %5s, %5s, %5s, %5g, %5g, %5g, %5s, %5g, %5g, %5g, %5g, %5g,\n",
+                      elements.NumberOf(load.Element, kAreaFamily), load.ETYP, load.LTYP, load.DIR,
+                      kNoVector, kNoVector, kNoVector, load.bPROJ, load.PU, load.P1, load.P2,
+                      load.P3, load.P4);
+      });
 }
 
 }  // namespace s2k2ngt

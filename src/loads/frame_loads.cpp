@@ -229,17 +229,17 @@ bool ConvertFrameGravity(Conversion& run) {
 
 void WriteBeamLoads(Conversion& run, Text loadCase, LineWriter& out) {
   ElementReferences elements(run.Elements);
-  WriteLoads(out, loadCase,
-             {"*BEAMLOAD    ; Element Beam Loads",
-              "; ELEM_LIST, CMD, TYPE, DIR, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP"},
-             LoadsByKey<&T_NGT_ELMB_D::LoadCase>(run.Target.Table<T_NGT_ELMB_D>(), loadCase),
-             [&](const T_NGT_ELMB_D& load) {
-               constexpr double kUnused = 0.0;
-               out.WriteLine("\t%d, %5s, %5s, %5s, %5s, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g,\n",
-                             elements.NumberOf(load.Element, kFrameFamily), "BEAM", load.TYPE,
-                             load.DIR, load.bPROJ, load.D1, load.P1, load.D2, load.P2, kUnused,
-                             kUnused, kUnused, kUnused);
-             });
+  WriteLoadsByKey<&T_NGT_ELMB_D::LoadCase>(
+      out, loadCase,
+      "*BEAMLOAD    ; Element Beam Loads\n"
+      "; ELEM_LIST, CMD, TYPE, DIR, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n",
+      run.Target.Table<T_NGT_ELMB_D>(), [&](const T_NGT_ELMB_D& load) {
+        constexpr double kUnused = 0.0;
+        out.WriteLine("\t%d, %5s, %5s, %5s, %5s, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g,\n",
+                      elements.NumberOf(load.Element, kFrameFamily), "BEAM", load.TYPE, load.DIR,
+                      load.bPROJ, load.D1, load.P1, load.D2, load.P2, kUnused, kUnused, kUnused,
+                      kUnused);
+      });
 }
 
 }  // namespace s2k2ngt

@@ -48,26 +48,26 @@ bool ConvertGroundDisplacements(Conversion& run) {
 // ---- Output ----
 
 void WriteNodalLoads(Conversion& run, Text loadCase, LineWriter& out) {
-  WriteLoads(
-      out, loadCase, {"*CONLOAD    ; Nodal Loads", ";NODE_LIST, FX, FY, FZ, MX, MY, MZ, GROUP"},
-      LoadsInWalkOrder<&T_NGT_NDLD_D::LoadCase>(run.Target.Table<T_NGT_NDLD_D>(), loadCase),
-      [&](const T_NGT_NDLD_D& load) {
+  WriteLoadsInWalkOrder<&T_NGT_NDLD_D::LoadCase>(
+      out, loadCase,
+      "*CONLOAD    ; Nodal Loads\n"
+      ";NODE_LIST, FX, FY, FZ, MX, MY, MZ, GROUP\n",
+      run.Target.Table<T_NGT_NDLD_D>(), [&](const T_NGT_NDLD_D& load) {
         out.WriteLine("\t%d, %5g, %5g, %5g, %5g, %5g, %5g,\n", run.Target.NodeNumber(load.Joint),
                       load.FX, load.FY, load.FZ, load.MX, load.MY, load.MZ);
       });
 }
 
 void WriteSupportDisplacements(Conversion& run, Text loadCase, LineWriter& out) {
-  WriteLoads(out, loadCase,
-             {"*SPDISP    ; Specified Displacement of Supports",
-              "; NODE_LIST, FLAG, Dx, Dy, Dz, Rx, Ry, Rz, GROUP"},
-             LoadsInWalkOrder<&T_NGT_DISP_D::LoadCase>(run.Target.Table<T_NGT_DISP_D>(), loadCase),
-             [&](const T_NGT_DISP_D& load) {
-               out.WriteLine("\t%d, %5s, %5g, %5g, %5g, %5g, %5g, %5g,\n",
-                             run.Target.NodeNumber(load.Joint),
-                             Text(load.FLAG.data(), load.FLAG.size()), load.Dx, load.Dy, load.Dz,
-                             load.Rx, load.Ry, load.Rz);
-             });
+  WriteLoadsInWalkOrder<&T_NGT_DISP_D::LoadCase>(
+      out, loadCase,
+      "*SPDISP    ; Specified Displacement of Supports\n"
+      "; NODE_LIST, FLAG, Dx, Dy, Dz, Rx, Ry, Rz, GROUP\n",
+      run.Target.Table<T_NGT_DISP_D>(), [&](const T_NGT_DISP_D& load) {
+        out.WriteLine("\t%d, %5s, %5g, %5g, %5g, %5g, %5g, %5g,\n",
+                      run.Target.NodeNumber(load.Joint), Text(load.FLAG.data(), load.FLAG.size()),
+                      load.Dx, load.Dy, load.Dz, load.Rx, load.Ry, load.Rz);
+      });
 }
 
 }  // namespace s2k2ngt

@@ -85,11 +85,11 @@ void WriteLoadCases(Conversion& run, LineWriter& out) {
 
 void WriteSelfWeights(Conversion& run, Text loadCase, LineWriter& out) {
   // The command has no line of its own: its name stands in each line of data.
-  WriteLoads(out, loadCase, {"; *SELFWEIGHT, X, Y, Z, GROUP"},
-             LoadsInWalkOrder<&T_NGT_FRSW_D::LoadCase>(run.Target.Table<T_NGT_FRSW_D>(), loadCase),
-             [&](const T_NGT_FRSW_D& weight) {
-               out.WriteLine("\t*SELFWEIGHT, %5g, %5g, %5g,\n", weight.X, weight.Y, weight.Z);
-             });
+  WriteLoadsInWalkOrder<&T_NGT_FRSW_D::LoadCase>(
+      out, loadCase, "; *SELFWEIGHT, X, Y, Z, GROUP\n", run.Target.Table<T_NGT_FRSW_D>(),
+      [&](const T_NGT_FRSW_D& weight) {
+        out.WriteLine("\t*SELFWEIGHT, %5g, %5g, %5g,\n", weight.X, weight.Y, weight.Z);
+      });
 }
 
 }  // namespace s2k2ngt

@@ -138,7 +138,8 @@ double ThicknessOf(CModel& model, Text area) {
 
 bool ConvertFrameTemperatures(Conversion& run) {
   TemperatureStep step(run, kFrameFamily);
-  for (const auto [key, row] : run.Source.Rows<T_FRLT_D>().Walk()) {
+  for (const auto entry : run.Source.Rows<T_FRLT_D>().Walk()) {
+    const T_FRLT_D& row = entry.Value;
     if (row.Type == "Temperature") {
       step.TakeReference<&T_FRRT_D::Frame>(run.Source.Rows<T_FRRT_D>(), row.Frame);
       step.AddTemperature(row, row.Frame, [&] {
@@ -159,7 +160,8 @@ bool ConvertFrameTemperatures(Conversion& run) {
 
 bool ConvertAreaTemperatures(Conversion& run) {
   TemperatureStep step(run, kAreaFamily);
-  for (const auto [key, row] : run.Source.Rows<T_ALTM_D>().Walk()) {
+  for (const auto entry : run.Source.Rows<T_ALTM_D>().Walk()) {
+    const T_ALTM_D& row = entry.Value;
     if (row.Type == "Temperature") {
       step.TakeReference<&T_AMRT_D::Area>(run.Source.Rows<T_AMRT_D>(), row.Area);
       step.AddTemperature(row, row.Area, [&] {
@@ -177,7 +179,8 @@ bool ConvertAreaTemperatures(Conversion& run) {
 
 bool ConvertSolidTemperatures(Conversion& run) {
   TemperatureStep step(run, kSolidFamily);
-  for (const auto [key, row] : run.Source.Rows<T_SLLT_D>().Walk()) {
+  for (const auto entry : run.Source.Rows<T_SLLT_D>().Walk()) {
+    const T_SLLT_D& row = entry.Value;
     step.TakeReference<&T_SLRT_D::Solid>(run.Source.Rows<T_SLRT_D>(), row.Solid);
     step.AddTemperature(row, row.Solid, [&] {
       const auto found = run.Source.Rows<T_CNSL_D>().FirstWith<&T_CNSL_D::Solid>(row.Solid);
@@ -191,39 +194,43 @@ bool ConvertSolidTemperatures(Conversion& run) {
 
 void WriteElementTemperatures(Conversion& run, Text loadCase, LineWriter& out) {
   ElementReferences elements(run.Elements);
-  WriteLoads(out, loadCase, {"*ELTEMPER    ; Element Temperatures", "; ELEM_LIST, TEMPER, GROUP"},
-             LoadsByKey<&T_NGT_ELMT_D::LoadCase>(run.Target.Table<T_NGT_ELMT_D>(), loadCase),
-             [&](const T_NGT_ELMT_D& load) {
-               const std::int32_t iEl = elements.NumberOf(load.Element, load.Family);
-               if (IsAboveTolerance(load.TEMPER)) {
-                 out.WriteLine("\t%d, %5g,\n", iEl, load.TEMPER);
-               }
-             });
+  WriteLoadsByKey<&T_NGT_ELMT_D::LoadCase>(
+      out, loadCase,
+      "*ELTEMPER    ; Element Temperatures\n"
+      "; ELEM_LIST, TEMPER, GROUP\n",
+      run.Target.Table<T_NGT_ELMT_D>(), [&](const T_NGT_ELMT_D& load) {
+        const std::int32_t iEl = elements.NumberOf(load.Element, load.Family);
+        if (IsAboveTolerance(load.TEMPER)) {
+          out.WriteLine("\t%d, %5g,\n", iEl, load.TEMPER);
+        }
+      });
 }
 
 void WriteNodalTemperatures(Conversion& run, Text loadCase, LineWriter& out) {
-  WriteLoads(out, loadCase, {"*NDTEMPER    ; Nodal Temperatures", "; NODE_LIST, TEMPER, GROUP"},
-             LoadsInWalkOrder<&T_NGT_NDTM_D::LoadCase>(run.Target.Table<T_NGT_NDTM_D>(), loadCase),
-             [&](const T_NGT_NDTM_D& load) {
-               if (IsAboveTolerance(load.TEMPER)) {
-                 out.WriteLine("\t%d, %5g,\n", run.Target.NodeNumber(load.Joint), load.TEMPER);
-               }
-             });
+  WriteLoadsInWalkOrder<&T_NGT_NDTM_D::LoadCase>(
+      out, loadCase,
+      "*NDTEMPER    ; Nodal Temperatures\n"
+      "; NODE_LIST, TEMPER, GROUP\n",
+      run.Target.Table<T_NGT_NDTM_D>(), [&](const T_NGT_NDTM_D& load) {
+        if (IsAboveTolerance(load.TEMPER)) {
+          out.WriteLine("\t%d, %5g,\n", run.Target.NodeNumber(load.Joint), load.TEMPER);
+        }
+      });
 }
 
 void WriteTemperatureGradients(Conversion& run, Text loadCase, LineWriter& out) {
   ElementReferences elements(run.Elements);
-  WriteLoads(out, loadCase,
-             {"*THERGRAD    ; Temperature Gradient",
-              "; ELEM_LIST, iETYP, TZ, bUSEHZ, HZ, TY, bUSEHY, HY, GROUP"},
-             LoadsByKey<&T_NGT_TMPG_D::LoadCase>(run.Target.Table<T_NGT_TMPG_D>(), loadCase),
-             [&](const T_NGT_TMPG_D& load) {
-               constexpr std::int32_t iETYP = 1;
-               constexpr double kNoDepth = 0.0;
-               out.WriteLine("\t%d, %5d, %5g, %5s, %5g, %5g, %5s, %5g,\n",
-                             elements.NumberOf(load.Element, load.Family), iETYP, load.TZ,
-                             load.bUSEHZ, kNoDepth, load.TY, load.bUSEHY, kNoDepth);
-             });
+  WriteLoadsByKey<&T_NGT_TMPG_D::LoadCase>(
+      out, loadCase,
+      "*THERGRAD    ; Temperature Gradient\n"
+      "; ELEM_LIST, iETYP, TZ, bUSEHZ, HZ, TY, bUSEHY, HY, GROUP\n",
+      run.Target.Table<T_NGT_TMPG_D>(), [&](const T_NGT_TMPG_D& load) {
+        constexpr std::int32_t iETYP = 1;
+        constexpr double kNoDepth = 0.0;
+        out.WriteLine("\t%d, %5d, %5g, %5s, %5g, %5g, %5s, %5g,\n",
+                      elements.NumberOf(load.Element, load.Family), iETYP, load.TZ, load.bUSEHZ,
+                      kNoDepth, load.TY, load.bUSEHY, kNoDepth);
+      });
 }
 
 }  // namespace s2k2ngt

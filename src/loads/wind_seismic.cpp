@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <initializer_list>
 #include <type_traits>
 
 namespace s2k2ngt {
@@ -96,9 +95,9 @@ T_NGT_WNBC_D Convert(const T_WNBC_D& source, TextStore& /*texts*/) {
           .GEF = source.Cg};
 }
 
-/// The first key that falls into the last bucket of a table: a walk that has met it ends there
+/// The first key that falls into the last bucket of a table: once it is there a walk ends with it,
 /// whatever is appended.
-consteval std::uint32_t FirstKeyOfLastBucket(std::uint32_t bucketCount) {
+std::uint32_t FirstKeyOfLastBucket(std::uint32_t bucketCount) {
   std::uint32_t key = 1;
   while (BucketOf(key, bucketCount) != bucketCount - 1) {
     ++key;
@@ -118,8 +117,8 @@ bool ConvertLoad(Conversion& run, Text load) {
   const auto target = Convert(row->Value, run.Target.Texts());
   using Target = std::remove_cv_t<decltype(target)>;
   auto& table = run.Target.Table<Target>();
-  if (table.Count() >= FirstKeyOfLastBucket(Target::kBuckets) &&
-      table.template FirstWith<&Target::LoadCase>(load)) {
+  static const std::uint32_t settled = FirstKeyOfLastBucket(Target::kBuckets);
+  if (table.Count() >= settled && table.template FirstWith<&Target::LoadCase>(load)) {
     return false;
   }
   table.Append(target);
@@ -162,7 +161,7 @@ namespace {
 /// Writes the block of one code for a load case. Meant so: a load case of another code gets the
 /// closing line of the last load case that has this one, without an opening.
 template <class Parameters, class WriteParameters>
-void WriteCode(Conversion& run, Text loadCase, LineWriter& out, std::initializer_list<Text> head,
+void WriteCode(Conversion& run, Text loadCase, LineWriter& out, Text head,
                WriteParameters writeParameters) {
   const auto found =
       run.Target.Table<Parameters>().template FirstOrLastWith<&Parameters::LoadCase>(loadCase);
@@ -172,9 +171,7 @@ void WriteCode(Conversion& run, Text loadCase, LineWriter& out, std::initializer
   const Parameters& parameters = found->Value;
   if (parameters.LoadCase == loadCase) {
     WriteUseOf(out, loadCase);
-    for (const Text line : head) {
-      out.WriteLine("%s\n", line);
-    }
+    out.WriteLine("%s", head);
     writeParameters(parameters);
   }
   out.WriteLine(";End of data for load case [%s]\n\n", parameters.LoadCase);
@@ -183,20 +180,21 @@ void WriteCode(Conversion& run, Text loadCase, LineWriter& out, std::initializer
 }  // namespace
 
 void WriteSeismic(Conversion& run, Text loadCase, LineWriter& out) {
-  constexpr Text kCommand = "*SEIS    ; Static Seismic Loads";
-  WriteCode<T_NGT_SUB7_D>(
-      run, loadCase, out,
-      {kCommand, "; CODE=CODE, SFX, SFY, ECCX, ECCY, DESC              ; line 1",
-       "; [UBC1997] : SPT, ZF, SST, CD, IF, PX, PY, NCX, NCY ; line 2"},
-      [&](const T_NGT_SUB7_D& p) {
-        out.WriteLine("\tCODE=UBC1997, %5g, %5g, %5s, %5s,%5s\n", p.SFX, p.SFY, p.ECCX, p.ECCY, "");
-        out.WriteLine("\t\t%s, %5g, %5s, %5g, %5g, %5g, %5g, %5g, %5g\n\n", p.SPT, p.ZF, p.SST,
-                      p.CD, p.IF, p.PX, p.PY, p.NCX, p.NCY);
-      });
+  WriteCode<T_NGT_SUB7_D>(run, loadCase, out,
+                          "*SEIS    ; Static Seismic Loads\n"
+                          "; CODE=CODE, SFX, SFY, ECCX, ECCY, DESC              ; line 1\n"
+                          "; [UBC1997] : SPT, ZF, SST, CD, IF, PX, PY, NCX, NCY ; line 2\n",
+                          [&](const T_NGT_SUB7_D& p) {
+                            out.WriteLine("\tCODE=UBC1997, %5g, %5g, %5s, %5s,%5s\n", p.SFX, p.SFY,
+                                          p.ECCX, p.ECCY, "");
+                            out.WriteLine("\t\t%s, %5g, %5s, %5g, %5g, %5g, %5g, %5g, %5g\n\n",
+                                          p.SPT, p.ZF, p.SST, p.CD, p.IF, p.PX, p.PY, p.NCX, p.NCY);
+                          });
   WriteCode<T_NGT_SNBC_D>(
       run, loadCase, out,
-      {kCommand, "; CODE=CODE, SFX, SFY, ECCX, ECCY, DESC                          ; line 1",
-       "; [NBC1995] : ZVR, AZ, VZ, IF, FF, PAX, PAY, PCX, PCY, FMFX, FMFY; line 2"},
+      "*SEIS    ; Static Seismic Loads\n"
+      "; CODE=CODE, SFX, SFY, ECCX, ECCY, DESC                          ; line 1\n"
+      "; [NBC1995] : ZVR, AZ, VZ, IF, FF, PAX, PAY, PCX, PCY, FMFX, FMFY; line 2\n",
       [&](const T_NGT_SNBC_D& p) {
         out.WriteLine("\tCODE=NBC1995, %5g, %5g, %5s, %5s, %5s\n", p.SFX, p.SFY, p.ECCX, p.ECCY,
                       "");
@@ -206,11 +204,11 @@ void WriteSeismic(Conversion& run, Text loadCase, LineWriter& out) {
 }
 
 void WriteWind(Conversion& run, Text loadCase, LineWriter& out) {
-  constexpr Text kCommand = "*WIND    ; Wind Loads";
   WriteCode<T_NGT_WUB7_D>(run, loadCase, out,
-                          {kCommand, "; CODE=CODE, SFX, SFY, DESC                   ; line 1",
-                           // an empty line stands behind its second comment, and behind no other
-                           "; [UBC1997]   : iMETHOD, EC, BWS, IF, PC, MRH ; line 2", ""},
+                          "*WIND    ; Wind Loads\n"
+                          "; CODE=CODE, SFX, SFY, DESC                   ; line 1\n"
+                          "; [UBC1997]   : iMETHOD, EC, BWS, IF, PC, MRH ; line 2\n"
+                          "\n",  // behind this comment alone
                           [&](const T_NGT_WUB7_D& p) {
                             out.WriteLine("\tCODE=UBC1997, %5g, %5g, %5s\n", p.SFX, p.SFY, "");
                             out.WriteLine("\t\t%d, %5s, %5g, %5g, %5g, %5g\n\n", p.iMETHOD, p.EC,
@@ -218,16 +216,18 @@ void WriteWind(Conversion& run, Text loadCase, LineWriter& out) {
                           });
   WriteCode<T_NGT_WIBC_D>(
       run, loadCase, out,
-      {kCommand, "; CODE=CODE, SFX, SFY, DESC                                 ; line 1",
-       "; [IBC2000]   : iPROC, BWS, IF, EC, WDF, MRH, iST, GFX, GFY ; line 2"},
+      "*WIND    ; Wind Loads\n"
+      "; CODE=CODE, SFX, SFY, DESC                                 ; line 1\n"
+      "; [IBC2000]   : iPROC, BWS, IF, EC, WDF, MRH, iST, GFX, GFY ; line 2\n",
       [&](const T_NGT_WIBC_D& p) {
         out.WriteLine("\tCODE=IBC2000, %5g, %5g, %5s\n", p.SFX, p.SFY, "");
         out.WriteLine("\t\t%d, %5g, %5g, %5s, %5g, %5g, %2d, %5g, %5g, NO, , , , , , NO, 1\n\n",
                       p.iPROC, p.BWS, p.IF, p.EC, p.WDF, p.MRH, p.iST, p.GFX, p.GFY);
       });
   WriteCode<T_NGT_WNBC_D>(run, loadCase, out,
-                          {kCommand, "; CODE=CODE, SFX, SFY, DESC                       ; line 1",
-                           "; [NBC1995]   : iPROC, RWS, GEF, CGX, CGY, BH, EC ; line 2"},
+                          "*WIND    ; Wind Loads\n"
+                          "; CODE=CODE, SFX, SFY, DESC                       ; line 1\n"
+                          "; [NBC1995]   : iPROC, RWS, GEF, CGX, CGY, BH, EC ; line 2\n",
                           [&](const T_NGT_WNBC_D& p) {
                             out.WriteLine("\tCODE=NBC1995, %5g, %5g, %5s\n", p.SFX, p.SFY, "");
                             out.WriteLine("\t\t%d, %5g, %5g, , , 0, %5s, NO, , , , , , NO, 1\n\n",

@@ -5,8 +5,7 @@
 #include "target/line_writer.h"
 
 #include <cstdint>
-#include <initializer_list>
-#include <ranges>
+#include <span>
 
 namespace s2k2ngt {
 
@@ -22,45 +21,42 @@ namespace s2k2ngt {
 // A table is grouped by load case when the first case is written, so that the cases together cost
 // one pass over it.
 
-/// The loads of a case in walk order.
-template <auto LoadCase, class Load>
-auto LoadsInWalkOrder(const CKeyedTable<Load>& loads, Text loadCase) {
-  return loads.template AllWith<LoadCase>(loadCase) |
-         std::views::transform([&loads](std::uint32_t position) -> const Load& {
-           return loads.AtWalk(position).Value;
-         });
-}
-
-/// The loads of a case in the order of their keys.
-template <auto LoadCase, class Load>
-auto LoadsByKey(const CKeyedTable<Load>& loads, Text loadCase) {
-  return loads.template KeysWith<LoadCase>(loadCase) |
-         std::views::transform(
-             [&loads](std::uint32_t key) -> const Load& { return *loads.Find(key); });
-}
-
 /// Opens the use of a load case.
 inline void WriteUseOf(LineWriter& out, Text loadCase) {
   out.WriteLine("%s, %10s\n\n", "*USE-STLD", loadCase);
 }
 
-/// Writes the loads of a case in their frame; nothing at all when there are none. `head` is the
-/// command line and the comments behind it.
-template <class Loads, class WriteLoad>
-void WriteLoads(LineWriter& out, Text loadCase, std::initializer_list<Text> head,
-                const Loads& loads, WriteLoad writeLoad) {
-  if (loads.empty()) {
+/// Writes what `write` gives for each of the places, in the frame of a load case; nothing at all
+/// when there are none. `head` is the command line and the comments behind it.
+template <class Write>
+void WriteInFrame(LineWriter& out, Text loadCase, Text head, std::span<const std::uint32_t> places,
+                  Write write) {
+  if (places.empty()) {
     return;
   }
   WriteUseOf(out, loadCase);
-  for (const Text line : head) {
-    out.WriteLine("%s\n", line);
-  }
-  for (const auto& load : loads) {
-    writeLoad(load);
+  out.WriteLine("%s", head);
+  for (const std::uint32_t place : places) {
+    write(place);
   }
   out.WriteLine(";End of data for load case [%s]\n", loadCase);
   out.WriteLine("\n");
+}
+
+/// Writes the loads of a case, by their field `LoadCase`, in walk order.
+template <auto LoadCase, class Load, class WriteLoad>
+void WriteLoadsInWalkOrder(LineWriter& out, Text loadCase, Text head,
+                           const CKeyedTable<Load>& loads, WriteLoad writeLoad) {
+  WriteInFrame(out, loadCase, head, loads.template AllWith<LoadCase>(loadCase),
+               [&](std::uint32_t position) { writeLoad(loads.AtWalk(position).Value); });
+}
+
+/// The same in the order of their keys.
+template <auto LoadCase, class Load, class WriteLoad>
+void WriteLoadsByKey(LineWriter& out, Text loadCase, Text head, const CKeyedTable<Load>& loads,
+                     WriteLoad writeLoad) {
+  WriteInFrame(out, loadCase, head, loads.template KeysWith<LoadCase>(loadCase),
+               [&](std::uint32_t key) { writeLoad(*loads.Find(key)); });
 }
 
 }  // namespace s2k2ngt
