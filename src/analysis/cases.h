@@ -17,9 +17,10 @@ struct T_ANAL_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ANAL_D>{Key{"Case=", &T_ANAL_D::Case},
-                                               Key{"Type=", &T_ANAL_D::Type},
-                                               Unread{"InitialCond="}, Unread{"ModalCase="}};
+inline constexpr RowKey<T_ANAL_D> kRowKeys<T_ANAL_D>[] = {{"Case=", &T_ANAL_D::Case},
+                                                          {"Type=", &T_ANAL_D::Type},
+                                                          Unread{"InitialCond="},
+                                                          Unread{"ModalCase="}};
 
 // ---- Conversion ----
 

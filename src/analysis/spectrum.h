@@ -25,13 +25,13 @@ struct T_FRSZ_D {  // NZS 4203
 };
 
 template <>
-inline constexpr std::tuple<> kRowKeys<T_FRSB_D>{};
+inline constexpr NoRowKeys<T_FRSB_D> kRowKeys<T_FRSB_D>{};
 template <>
-inline constexpr std::tuple<> kRowKeys<T_FRSF_D>{};
+inline constexpr NoRowKeys<T_FRSF_D> kRowKeys<T_FRSF_D>{};
 template <>
-inline constexpr std::tuple<> kRowKeys<T_FRSH_D>{};
+inline constexpr NoRowKeys<T_FRSH_D> kRowKeys<T_FRSH_D>{};
 template <>
-inline constexpr std::tuple<> kRowKeys<T_FRSZ_D>{};
+inline constexpr NoRowKeys<T_FRSZ_D> kRowKeys<T_FRSZ_D>{};
 
 // ---- Conversion ----
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "common/key_order.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <span>
@@ -14,21 +15,6 @@
 #include <vector>
 
 namespace s2k2ngt {
-
-/// The bucket in which a chained hash of `bucketCount` buckets keeps `key`.
-///
-/// The order of many output lines is that of such a hash. It is part of the output format: outputs
-/// of one model are compared line by line.
-constexpr std::uint32_t BucketOf(std::uint32_t key, std::uint32_t bucketCount) {
-  const auto signedKey = static_cast<std::int32_t>(key);
-  const std::int32_t quotient = signedKey / 127773;
-  const std::int32_t remainder = signedKey % 127773;
-  std::int32_t hash = 16807 * remainder - 2836 * quotient;
-  if (hash < 0) {
-    hash += std::numeric_limits<std::int32_t>::max();
-  }
-  return static_cast<std::uint32_t>(hash) % bucketCount;
-}
 
 /// Bucket count of a table that has not been reset to its final size.
 inline constexpr std::uint32_t kInitialBuckets = 17;
@@ -50,17 +36,17 @@ class CKeyedTable {
     const Record& Value;
   };
 
-  explicit CKeyedTable(std::uint32_t bucketCount = kInitialBuckets) : m_BucketCount(bucketCount) {}
+  explicit CKeyedTable(std::uint32_t bucketCount = kInitialBuckets) : m_Keys(bucketCount) {}
 
   /// Stores `record` under `key`.
   void Insert(std::uint32_t key, Record record) {
-    const std::uint32_t slot = SlotOf(key);
-    if (slot != kNoSlot) {
+    const std::uint32_t slot = m_Keys.SlotOf(key);
+    if (slot != KeyOrder::kNoSlot) {
       m_Records[slot] = std::move(record);
       ++m_Replacements;
       return;
     }
-    NoteSlotOfNewKey(key);
+    m_Keys.Append(key);
     m_Records.push_back(std::move(record));
   }
 
@@ -74,8 +60,8 @@ class CKeyedTable {
 
   /// The record of `key`, or null. Valid until the next Insert.
   const Record* Find(std::uint32_t key) const {
-    const std::uint32_t slot = SlotOf(key);
-    return slot == kNoSlot ? nullptr : &m_Records[slot];
+    const std::uint32_t slot = m_Keys.SlotOf(key);
+    return slot == KeyOrder::kNoSlot ? nullptr : &m_Records[slot];
   }
 
   /// The record of `key` to be changed in place, or null. A field by which the table is searched
@@ -114,21 +100,19 @@ class CKeyedTable {
 
   /// All entries, in walk order.
   WalkRange Walk() const {
-    ComputeWalk();
-    return {WalkIterator(*this, 0), WalkIterator(*this, m_Walk.size())};
+    return {WalkIterator(*this, 0), WalkIterator(*this, m_Keys.Walk().size())};
   }
 
   /// The entry that a walk reaches at `position`, from 0. Only for positions that Walk or AllWith
   /// gave since the last Insert.
   Entry AtWalk(std::size_t position) const {
-    const std::uint32_t slot = m_Walk[position];
-    return {KeyOfSlot(slot), m_Records[slot]};
+    const std::uint32_t slot = m_Keys.Walk()[position];
+    return {m_Keys.KeyOf(slot), m_Records[slot]};
   }
 
   /// The last entry of a walk; nothing when the table is empty.
   std::optional<Entry> LastWalked() const {
-    ComputeWalk();
-    return m_Walk.empty() ? std::nullopt : std::optional<Entry>(AtWalk(m_Walk.size() - 1));
+    return Empty() ? std::nullopt : std::optional<Entry>(AtWalk(Count() - 1));
   }
 
   // A search names what it compares: a field of the record, or a function of it.
@@ -141,7 +125,7 @@ class CKeyedTable {
     if (found == index.Slots.end()) {
       return std::nullopt;
     }
-    return Entry{KeyOfSlot(found->second), m_Records[found->second]};
+    return Entry{m_Keys.KeyOf(found->second), m_Records[found->second]};
   }
 
   /// The same; without such an entry the last of the walk, where a search from its beginning would
@@ -166,8 +150,6 @@ class CKeyedTable {
   }
 
  private:
-  static constexpr std::uint32_t kNoSlot = std::numeric_limits<std::uint32_t>::max();
-
   template <auto Field>
   using FieldValue = std::remove_cvref_t<std::invoke_result_t<decltype(Field), const Record&>>;
 
@@ -193,7 +175,7 @@ class CKeyedTable {
         const auto slot = static_cast<std::uint32_t>(Indexed);
         const auto [place, isNew] =
             Slots.try_emplace(std::invoke(Field, table.m_Records[slot]), slot);
-        if (!isNew && table.BucketOfSlot(slot) <= table.BucketOfSlot(place->second)) {
+        if (!isNew && table.m_Keys.BucketOfSlot(slot) <= table.m_Keys.BucketOfSlot(place->second)) {
           place->second = slot;
         }
       }
@@ -235,8 +217,7 @@ class CKeyedTable {
   template <auto Field>
   struct WalkGroupIndex final : GroupIndex<Field> {
     void Fill(const CKeyedTable& table) override {
-      table.ComputeWalk();
-      for (std::uint32_t position = 0; position < table.m_Walk.size(); ++position) {
+      for (std::uint32_t position = 0; position < table.Count(); ++position) {
         this->Groups[std::invoke(Field, table.AtWalk(position).Value)].push_back(position);
       }
     }
@@ -247,9 +228,9 @@ class CKeyedTable {
   struct KeyGroupIndex final : GroupIndex<Field> {
     void Fill(const CKeyedTable& table) override {
       for (std::uint32_t slot = 0; slot < table.Count(); ++slot) {
-        this->Groups[std::invoke(Field, table.m_Records[slot])].push_back(table.KeyOfSlot(slot));
+        this->Groups[std::invoke(Field, table.m_Records[slot])].push_back(table.m_Keys.KeyOf(slot));
       }
-      if (table.m_Keys.empty()) {
+      if (table.m_Keys.CameInOrder()) {
         return;  // the keys came in order
       }
       for (auto& [value, keys] : this->Groups) {
@@ -271,89 +252,9 @@ class CKeyedTable {
     return static_cast<const WantedIndex&>(*m_Indexes.back());
   }
 
-  std::uint32_t KeyOfSlot(std::uint32_t slot) const {
-    return m_Keys.empty() ? slot + 1 : m_Keys[slot];
-  }
-  std::uint32_t BucketOfSlot(std::uint32_t slot) const {
-    return BucketOf(KeyOfSlot(slot), m_BucketCount);
-  }
-
-  std::uint32_t SlotOf(std::uint32_t key) const {
-    if (m_Keys.empty()) {
-      return key - 1 < m_Records.size() ? key - 1 : kNoSlot;
-    }
-    if (key < m_SlotOfKey.size()) {
-      return m_SlotOfKey[key];
-    }
-    const auto outlier = m_SlotOfOutlier.find(key);
-    return outlier == m_SlotOfOutlier.end() ? kNoSlot : outlier->second;
-  }
-
-  /// The record about to be added gets the next slot. While the keys come as 1, 2, 3, ... a key
-  /// tells its slot and nothing is kept of it.
-  void NoteSlotOfNewKey(std::uint32_t key) {
-    const auto slot = static_cast<std::uint32_t>(m_Records.size());
-    if (m_Keys.empty()) {
-      if (key == slot + 1) {
-        return;
-      }
-      for (std::uint32_t earlier = 0; earlier < slot; ++earlier) {
-        m_Keys.push_back(earlier + 1);
-        SetSlot(earlier + 1, earlier);
-      }
-    }
-    m_Keys.push_back(key);
-    SetSlot(key, slot);
-  }
-
-  void SetSlot(std::uint32_t key, std::uint32_t slot) {
-    // Keys are as a rule row positions, so an array by key holds them; the odd key far beyond the
-    // number of records must not blow it up.
-    constexpr std::uint32_t kAlwaysByArray = 1U << 16U;
-    if (key >= m_SlotOfKey.size() && (key < kAlwaysByArray || key / 4 < m_Records.size())) {
-      const std::size_t oldSize = m_SlotOfKey.size();
-      m_SlotOfKey.resize(std::max<std::size_t>(std::size_t{key} + 1, 2 * oldSize), kNoSlot);
-      std::erase_if(m_SlotOfOutlier, [this](const auto& outlier) {
-        const auto [outlierKey, outlierSlot] = outlier;
-        const bool hasPlace = outlierKey < m_SlotOfKey.size();
-        if (hasPlace) {
-          m_SlotOfKey[outlierKey] = outlierSlot;
-        }
-        return hasPlace;
-      });
-    }
-    if (key < m_SlotOfKey.size()) {
-      m_SlotOfKey[key] = slot;
-    } else {
-      m_SlotOfOutlier[key] = slot;
-    }
-  }
-
-  void ComputeWalk() const {
-    if (m_Walk.size() == m_Records.size()) {
-      return;
-    }
-    const auto count = static_cast<std::uint32_t>(m_Records.size());
-    std::vector<std::uint32_t> next(std::size_t{m_BucketCount} + 1, 0);
-    for (std::uint32_t slot = 0; slot < count; ++slot) {
-      ++next[std::size_t{BucketOfSlot(slot)} + 1];
-    }
-    for (std::size_t bucket = 1; bucket < next.size(); ++bucket) {
-      next[bucket] += next[bucket - 1];
-    }
-    m_Walk.resize(count);
-    for (std::uint32_t slot = count; slot-- > 0;) {
-      m_Walk[next[BucketOfSlot(slot)]++] = slot;
-    }
-  }
-
-  std::uint32_t m_BucketCount;
-  std::vector<Record> m_Records;      // in the order of their first insertion
-  std::vector<std::uint32_t> m_Keys;  // by slot; empty while the keys are 1, 2, 3, ...
-  std::vector<std::uint32_t> m_SlotOfKey;
-  std::unordered_map<std::uint32_t, std::uint32_t> m_SlotOfOutlier;
+  std::vector<Record> m_Records;  // by slot, in the order of their first insertion
+  KeyOrder m_Keys;
   std::uint64_t m_Replacements = 0;
-  mutable std::vector<std::uint32_t> m_Walk;  // slots in walk order
   mutable std::vector<std::unique_ptr<Index>> m_Indexes;
 };
 

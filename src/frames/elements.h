@@ -22,9 +22,10 @@ struct T_CNFR_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_CNFR_D>{
-    Key{"Frame=", &T_CNFR_D::Frame}, Key{"JointI=", &T_CNFR_D::JointI},
-    Key{"JointJ=", &T_CNFR_D::JointJ}, Key{"Length=", &T_CNFR_D::Length}};
+inline constexpr RowKey<T_CNFR_D> kRowKeys<T_CNFR_D>[] = {{"Frame=", &T_CNFR_D::Frame},
+                                                          {"JointI=", &T_CNFR_D::JointI},
+                                                          {"JointJ=", &T_CNFR_D::JointJ},
+                                                          {"Length=", &T_CNFR_D::Length}};
 
 /// The connectivity of a frame. Meant so: a frame that is not there has that of the last frame of
 /// the walk, and in a model without frames an empty one.
@@ -38,9 +39,9 @@ struct T_FRSC_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRSC_D>{
-    Key{"Frame=", &T_FRSC_D::Frame},       Unread{"SectionType="}, Unread{"AutoSelect="},
-    Key{"AnalSect=", &T_FRSC_D::AnalSect}, Unread{"DesignSect="},  Unread{"MatProp="}};
+inline constexpr RowKey<T_FRSC_D> kRowKeys<T_FRSC_D>[] = {
+    {"Frame=", &T_FRSC_D::Frame},       Unread{"SectionType="}, Unread{"AutoSelect="},
+    {"AnalSect=", &T_FRSC_D::AnalSect}, Unread{"DesignSect="},  Unread{"MatProp="}};
 
 /// The name of a frame's section; nothing for a frame without an assignment row.
 std::optional<Text> SectionNameOf(CModel& model, Text frame);
@@ -54,9 +55,11 @@ struct T_FRTP_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRTP_D>{
-    Key{"Frame=", &T_FRTP_D::Frame}, Key{"Angle=", &T_FRTP_D::Angle}, Unread{"MirrorAbt2="},
-    Unread{"MirrorAbt3="}, Key{"AdvanceAxes=", &T_FRTP_D::AdvanceAxes}};
+inline constexpr RowKey<T_FRTP_D> kRowKeys<T_FRTP_D>[] = {{"Frame=", &T_FRTP_D::Frame},
+                                                          {"Angle=", &T_FRTP_D::Angle},
+                                                          Unread{"MirrorAbt2="},
+                                                          Unread{"MirrorAbt3="},
+                                                          {"AdvanceAxes=", &T_FRTP_D::AdvanceAxes}};
 
 /// Advanced local axes of a frame: the plane that two of its axes span. The component of the plane
 /// vector along global X plays no part.
@@ -74,17 +77,17 @@ struct T_FRAV_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRAV_D>{Key{"Frame=", &T_FRAV_D::Frame},
-                                               Key{"LocalPlan=", &T_FRAV_D::LocalPlan},
-                                               Key{"PlOption1=", &T_FRAV_D::PlOption1},
-                                               Unread{"PlCoordSys="},
-                                               Key{"CoordDir1=", &T_FRAV_D::CoordDir1},
-                                               Key{"CoordDir2=", &T_FRAV_D::CoordDir2},
-                                               Key{"PlVecJt1=", &T_FRAV_D::PlVecJt1},
-                                               Key{"PlVecJt2=", &T_FRAV_D::PlVecJt2},
-                                               Unread{"PlVecX="},
-                                               Key{"PlVecY=", &T_FRAV_D::PlVecY},
-                                               Key{"PlVecZ=", &T_FRAV_D::PlVecZ}};
+inline constexpr RowKey<T_FRAV_D> kRowKeys<T_FRAV_D>[] = {{"Frame=", &T_FRAV_D::Frame},
+                                                          {"LocalPlan=", &T_FRAV_D::LocalPlan},
+                                                          {"PlOption1=", &T_FRAV_D::PlOption1},
+                                                          Unread{"PlCoordSys="},
+                                                          {"CoordDir1=", &T_FRAV_D::CoordDir1},
+                                                          {"CoordDir2=", &T_FRAV_D::CoordDir2},
+                                                          {"PlVecJt1=", &T_FRAV_D::PlVecJt1},
+                                                          {"PlVecJt2=", &T_FRAV_D::PlVecJt2},
+                                                          Unread{"PlVecX="},
+                                                          {"PlVecY=", &T_FRAV_D::PlVecY},
+                                                          {"PlVecZ=", &T_FRAV_D::PlVecZ}};
 
 // ---- Target records ----
 

@@ -31,14 +31,14 @@ struct T_FRGN_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRGN_D>{
-    Key{"Frame=", &T_FRGN_D::Frame}, Key{"PI=", &T_FRGN_D::PI},
-    Key{"V2I=", &T_FRGN_D::V2I},     Key{"V3I=", &T_FRGN_D::V3I},
-    Key{"TI=", &T_FRGN_D::TI},       Key{"M2I=", &T_FRGN_D::M2I},
-    Key{"M3I=", &T_FRGN_D::M3I},     Key{"PJ=", &T_FRGN_D::PJ},
-    Key{"V2J=", &T_FRGN_D::V2J},     Key{"V3J=", &T_FRGN_D::V3J},
-    Key{"TJ=", &T_FRGN_D::TJ},       Key{"M2J=", &T_FRGN_D::M2J},
-    Key{"M3J=", &T_FRGN_D::M3J},     Key{"PartialFix=", &T_FRGN_D::PartialFix}};
+inline constexpr RowKey<T_FRGN_D> kRowKeys<T_FRGN_D>[] = {
+    {"Frame=", &T_FRGN_D::Frame}, {"PI=", &T_FRGN_D::PI},
+    {"V2I=", &T_FRGN_D::V2I},     {"V3I=", &T_FRGN_D::V3I},
+    {"TI=", &T_FRGN_D::TI},       {"M2I=", &T_FRGN_D::M2I},
+    {"M3I=", &T_FRGN_D::M3I},     {"PJ=", &T_FRGN_D::PJ},
+    {"V2J=", &T_FRGN_D::V2J},     {"V3J=", &T_FRGN_D::V3J},
+    {"TJ=", &T_FRGN_D::TJ},       {"M2J=", &T_FRGN_D::M2J},
+    {"M3J=", &T_FRGN_D::M3J},     {"PartialFix=", &T_FRGN_D::PartialFix}};
 
 /// Partial fixity of a frame's ends: the spring in each released direction.
 struct T_FRPF_D {
@@ -59,12 +59,12 @@ struct T_FRPF_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRPF_D>{
-    Key{"Frame=", &T_FRPF_D::Frame}, Key{"PI=", &T_FRPF_D::PI}, Key{"V2I=", &T_FRPF_D::V2I},
-    Key{"V3I=", &T_FRPF_D::V3I},     Key{"TI=", &T_FRPF_D::TI}, Key{"M2I=", &T_FRPF_D::M2I},
-    Key{"M3I=", &T_FRPF_D::M3I},     Key{"PJ=", &T_FRPF_D::PJ}, Key{"V2J=", &T_FRPF_D::V2J},
-    Key{"V3J=", &T_FRPF_D::V3J},     Key{"TJ=", &T_FRPF_D::TJ}, Key{"M2J=", &T_FRPF_D::M2J},
-    Key{"M3J=", &T_FRPF_D::M3J}};
+inline constexpr RowKey<T_FRPF_D> kRowKeys<T_FRPF_D>[] = {
+    {"Frame=", &T_FRPF_D::Frame}, {"PI=", &T_FRPF_D::PI}, {"V2I=", &T_FRPF_D::V2I},
+    {"V3I=", &T_FRPF_D::V3I},     {"TI=", &T_FRPF_D::TI}, {"M2I=", &T_FRPF_D::M2I},
+    {"M3I=", &T_FRPF_D::M3I},     {"PJ=", &T_FRPF_D::PJ}, {"V2J=", &T_FRPF_D::V2J},
+    {"V3J=", &T_FRPF_D::V3J},     {"TJ=", &T_FRPF_D::TJ}, {"M2J=", &T_FRPF_D::M2J},
+    {"M3J=", &T_FRPF_D::M3J}};
 
 /// Rigid lengths at the ends of a frame. The rigid factor has no place in the output.
 struct T_FROF_D {
@@ -75,9 +75,11 @@ struct T_FROF_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FROF_D>{
-    Key{"Frame=", &T_FROF_D::Frame}, Unread{"Type="}, Key{"LengthI=", &T_FROF_D::LengthI},
-    Key{"LengthJ=", &T_FROF_D::LengthJ}, Unread{"RigidFactor="}};
+inline constexpr RowKey<T_FROF_D> kRowKeys<T_FROF_D>[] = {{"Frame=", &T_FROF_D::Frame},
+                                                          Unread{"Type="},
+                                                          {"LengthI=", &T_FROF_D::LengthI},
+                                                          {"LengthJ=", &T_FROF_D::LengthJ},
+                                                          Unread{"RigidFactor="}};
 
 /// Insertion point of a frame: where its axis runs in the section, and joint offsets.
 struct T_FRIP_D {
@@ -94,12 +96,12 @@ struct T_FRIP_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRIP_D>{
-    Key{"Frame=", &T_FRIP_D::Frame},           Key{"CardinalPt=", &T_FRIP_D::CardinalPt},
-    Key{"CoordSys=", &T_FRIP_D::CoordSys},     Key{"JtOffsetXI=", &T_FRIP_D::JtOffsetXI},
-    Key{"JtOffsetYI=", &T_FRIP_D::JtOffsetYI}, Key{"JtOffsetZI=", &T_FRIP_D::JtOffsetZI},
-    Key{"JtOffsetXJ=", &T_FRIP_D::JtOffsetXJ}, Key{"JtOffsetYJ=", &T_FRIP_D::JtOffsetYJ},
-    Key{"JtOffsetZJ=", &T_FRIP_D::JtOffsetZJ}};
+inline constexpr RowKey<T_FRIP_D> kRowKeys<T_FRIP_D>[] = {
+    {"Frame=", &T_FRIP_D::Frame},           {"CardinalPt=", &T_FRIP_D::CardinalPt},
+    {"CoordSys=", &T_FRIP_D::CoordSys},     {"JtOffsetXI=", &T_FRIP_D::JtOffsetXI},
+    {"JtOffsetYI=", &T_FRIP_D::JtOffsetYI}, {"JtOffsetZI=", &T_FRIP_D::JtOffsetZI},
+    {"JtOffsetXJ=", &T_FRIP_D::JtOffsetXJ}, {"JtOffsetYJ=", &T_FRIP_D::JtOffsetYJ},
+    {"JtOffsetZJ=", &T_FRIP_D::JtOffsetZJ}};
 
 // ---- Target records ----
 

@@ -18,9 +18,10 @@ struct T_FRPD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRPD_D>{Key{"Frame=", &T_FRPD_D::Frame}, Unread{"CoordSys="},
-                                               Key{"Direction=", &T_FRPD_D::Direction},
-                                               Key{"Force=", &T_FRPD_D::Force}};
+inline constexpr RowKey<T_FRPD_D> kRowKeys<T_FRPD_D>[] = {{"Frame=", &T_FRPD_D::Frame},
+                                                          Unread{"CoordSys="},
+                                                          {"Direction=", &T_FRPD_D::Direction},
+                                                          {"Force=", &T_FRPD_D::Force}};
 
 /// The tendon of a frame: its tension, and its drape at both ends and the middle.
 struct T_FRPT_D {
@@ -33,10 +34,11 @@ struct T_FRPT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRPT_D>{
-    Key{"Frame=", &T_FRPT_D::Frame}, Key{"Tension=", &T_FRPT_D::Tension},
-    Key{"DrapeI=", &T_FRPT_D::DrapeI}, Key{"DrapeCenter=", &T_FRPT_D::DrapeCenter},
-    Key{"DrapeJ=", &T_FRPT_D::DrapeJ}};
+inline constexpr RowKey<T_FRPT_D> kRowKeys<T_FRPT_D>[] = {{"Frame=", &T_FRPT_D::Frame},
+                                                          {"Tension=", &T_FRPT_D::Tension},
+                                                          {"DrapeI=", &T_FRPT_D::DrapeI},
+                                                          {"DrapeCenter=", &T_FRPT_D::DrapeCenter},
+                                                          {"DrapeJ=", &T_FRPT_D::DrapeJ}};
 
 /// The load case in which the tendon of a frame acts, and how much of it.
 struct T_FRLM_D {
@@ -47,9 +49,9 @@ struct T_FRLM_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRLM_D>{Key{"Frame=", &T_FRLM_D::Frame},
-                                               Key{"LoadCase=", &T_FRLM_D::LoadCase},
-                                               Key{"Multiplier=", &T_FRLM_D::Multiplier}};
+inline constexpr RowKey<T_FRLM_D> kRowKeys<T_FRLM_D>[] = {{"Frame=", &T_FRLM_D::Frame},
+                                                          {"LoadCase=", &T_FRLM_D::LoadCase},
+                                                          {"Multiplier=", &T_FRLM_D::Multiplier}};
 
 // ---- Target records ----
 

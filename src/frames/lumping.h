@@ -22,9 +22,8 @@ struct T_FRSA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRSA_D>{Key{"Frame=", &T_FRSA_D::Frame},
-                                               Key{"Dir=", &T_FRSA_D::Dir},
-                                               Key{"Stiffness=", &T_FRSA_D::Stiffness}};
+inline constexpr RowKey<T_FRSA_D> kRowKeys<T_FRSA_D>[] = {
+    {"Frame=", &T_FRSA_D::Frame}, {"Dir=", &T_FRSA_D::Dir}, {"Stiffness=", &T_FRSA_D::Stiffness}};
 
 /// Added mass of a frame.
 struct T_FRAD_D {
@@ -34,8 +33,8 @@ struct T_FRAD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRAD_D>{Key{"Frame=", &T_FRAD_D::Frame},
-                                               Key{"MassPerLen=", &T_FRAD_D::MassPerLen}};
+inline constexpr RowKey<T_FRAD_D> kRowKeys<T_FRAD_D>[] = {{"Frame=", &T_FRAD_D::Frame},
+                                                          {"MassPerLen=", &T_FRAD_D::MassPerLen}};
 
 // ---- Conversion ----
 

@@ -25,16 +25,16 @@ struct T_MTGN_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_MTGN_D>{Key{"Material=", &T_MTGN_D::Material},
-                                               Key{"Type=", &T_MTGN_D::Type},
-                                               Key{"DesignType=", &T_MTGN_D::DesignType},
-                                               Unread{"UnitMass="},
-                                               Key{"UnitWeight=", &T_MTGN_D::UnitWeight},
-                                               Key{"E=", &T_MTGN_D::E},
-                                               Key{"U=", &T_MTGN_D::U},
-                                               Key{"A=", &T_MTGN_D::A},
-                                               Unread{"NumAdvance="},
-                                               Unread{"Color="}};
+inline constexpr RowKey<T_MTGN_D> kRowKeys<T_MTGN_D>[] = {{"Material=", &T_MTGN_D::Material},
+                                                          {"Type=", &T_MTGN_D::Type},
+                                                          {"DesignType=", &T_MTGN_D::DesignType},
+                                                          Unread{"UnitMass="},
+                                                          {"UnitWeight=", &T_MTGN_D::UnitWeight},
+                                                          {"E=", &T_MTGN_D::E},
+                                                          {"U=", &T_MTGN_D::U},
+                                                          {"A=", &T_MTGN_D::A},
+                                                          Unread{"NumAdvance="},
+                                                          Unread{"Color="}};
 
 /// Constants of a material that is not isotropic, at one temperature. The mixed constants have no
 /// place in the output.
@@ -56,35 +56,35 @@ struct T_MTAD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_MTAD_D>{Key{"Material=", &T_MTAD_D::Material},
-                                               Unread{"Temp="},
-                                               Key{"E1=", &T_MTAD_D::E1},
-                                               Key{"E2=", &T_MTAD_D::E2},
-                                               Key{"E3=", &T_MTAD_D::E3},
-                                               Key{"G12=", &T_MTAD_D::G12},
-                                               Key{"G13=", &T_MTAD_D::G13},
-                                               Key{"G23=", &T_MTAD_D::G23},
-                                               Key{"U12=", &T_MTAD_D::U12},
-                                               Key{"U13=", &T_MTAD_D::U13},
-                                               Key{"U23=", &T_MTAD_D::U23},
-                                               Unread{"U14="},
-                                               Unread{"U24="},
-                                               Unread{"U34="},
-                                               Unread{"U15="},
-                                               Unread{"U25="},
-                                               Unread{"U35="},
-                                               Unread{"U45="},
-                                               Unread{"U16="},
-                                               Unread{"U26="},
-                                               Unread{"U36="},
-                                               Unread{"U46="},
-                                               Unread{"U56="},
-                                               Key{"A1=", &T_MTAD_D::A1},
-                                               Key{"A2=", &T_MTAD_D::A2},
-                                               Key{"A3=", &T_MTAD_D::A3},
-                                               Unread{"A12="},
-                                               Unread{"A13="},
-                                               Unread{"A23="}};
+inline constexpr RowKey<T_MTAD_D> kRowKeys<T_MTAD_D>[] = {{"Material=", &T_MTAD_D::Material},
+                                                          Unread{"Temp="},
+                                                          {"E1=", &T_MTAD_D::E1},
+                                                          {"E2=", &T_MTAD_D::E2},
+                                                          {"E3=", &T_MTAD_D::E3},
+                                                          {"G12=", &T_MTAD_D::G12},
+                                                          {"G13=", &T_MTAD_D::G13},
+                                                          {"G23=", &T_MTAD_D::G23},
+                                                          {"U12=", &T_MTAD_D::U12},
+                                                          {"U13=", &T_MTAD_D::U13},
+                                                          {"U23=", &T_MTAD_D::U23},
+                                                          Unread{"U14="},
+                                                          Unread{"U24="},
+                                                          Unread{"U34="},
+                                                          Unread{"U15="},
+                                                          Unread{"U25="},
+                                                          Unread{"U35="},
+                                                          Unread{"U45="},
+                                                          Unread{"U16="},
+                                                          Unread{"U26="},
+                                                          Unread{"U36="},
+                                                          Unread{"U46="},
+                                                          Unread{"U56="},
+                                                          {"A1=", &T_MTAD_D::A1},
+                                                          {"A2=", &T_MTAD_D::A2},
+                                                          {"A3=", &T_MTAD_D::A3},
+                                                          Unread{"A12="},
+                                                          Unread{"A13="},
+                                                          Unread{"A23="}};
 
 /// The number of a material. An unknown name gives the number of the last material that a walk over
 /// the table meets, an empty table nothing: callers that scan for a name rely on both.

@@ -16,7 +16,7 @@ struct T_FRPM_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRPM_D>{
+inline constexpr RowKey<T_FRPM_D> kRowKeys<T_FRPM_D>[] = {
     Unread{"Frame="},  Unread{"AMod="},   Unread{"AS2Mod="},  Unread{"AS3Mod="},   Unread{"JMod="},
     Unread{"I22Mod="}, Unread{"I33Mod="}, Unread{"MassMod="}, Unread{"WeightMod="}};
 

@@ -21,9 +21,9 @@ struct T_JTCA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTCA_D>{Key{"Joint=", &T_JTCA_D::Joint},
-                                               Key{"Constraint=", &T_JTCA_D::Constraint},
-                                               Key{"Type=", &T_JTCA_D::Type}};
+inline constexpr RowKey<T_JTCA_D> kRowKeys<T_JTCA_D>[] = {{"Joint=", &T_JTCA_D::Joint},
+                                                          {"Constraint=", &T_JTCA_D::Constraint},
+                                                          {"Type=", &T_JTCA_D::Type}};
 
 /// Definition of a constraint about an axis: "X", "Y", "Z", or one that the source program finds.
 struct ConstraintByAxis {
@@ -32,9 +32,8 @@ struct ConstraintByAxis {
 };
 
 template <std::derived_from<ConstraintByAxis> Record>
-inline constexpr std::tuple kRowKeys<Record>{Key{"Name=", &ConstraintByAxis::Name},
-                                             Unread{"CoordSys="},
-                                             Key{"Axis=", &ConstraintByAxis::Axis}};
+inline constexpr RowKey<Record> kRowKeys<Record>[] = {
+    {"Name=", &ConstraintByAxis::Name}, Unread{"CoordSys="}, {"Axis=", &ConstraintByAxis::Axis}};
 
 struct T_CDBM_D : ConstraintByAxis {  // beam
   static constexpr Text kTable = "T_CDBM_D";
@@ -43,9 +42,10 @@ struct T_CDDP_D : ConstraintByAxis {  // diaphragm
   static constexpr Text kTable = "T_CDDP_D";
 };
 template <>
-inline constexpr std::tuple kRowKeys<T_CDDP_D>{Key{"Name=", &T_CDDP_D::Name}, Unread{"CoordSys="},
-                                               Key{"Axis=", &T_CDDP_D::Axis},
-                                               Unread{"MultiLevel="}};
+inline constexpr RowKey<T_CDDP_D> kRowKeys<T_CDDP_D>[] = {{"Name=", &T_CDDP_D::Name},
+                                                          Unread{"CoordSys="},
+                                                          {"Axis=", &T_CDDP_D::Axis},
+                                                          Unread{"MultiLevel="}};
 struct T_CDPL_D : ConstraintByAxis {  // plate
   static constexpr Text kTable = "T_CDPL_D";
 };
@@ -65,11 +65,11 @@ struct ConstraintByFlags {
 };
 
 template <std::derived_from<ConstraintByFlags> Record>
-inline constexpr std::tuple kRowKeys<Record>{
-    Key{"Name=", &ConstraintByFlags::Name}, Unread{"CoordSys="},
-    Key{"UX=", &ConstraintByFlags::UX},     Key{"UY=", &ConstraintByFlags::UY},
-    Key{"UZ=", &ConstraintByFlags::UZ},     Key{"RX=", &ConstraintByFlags::RX},
-    Key{"RY=", &ConstraintByFlags::RY},     Key{"RZ=", &ConstraintByFlags::RZ}};
+inline constexpr RowKey<Record> kRowKeys<Record>[] = {
+    {"Name=", &ConstraintByFlags::Name}, Unread{"CoordSys="},
+    {"UX=", &ConstraintByFlags::UX},     {"UY=", &ConstraintByFlags::UY},
+    {"UZ=", &ConstraintByFlags::UZ},     {"RX=", &ConstraintByFlags::RX},
+    {"RY=", &ConstraintByFlags::RY},     {"RZ=", &ConstraintByFlags::RZ}};
 
 struct T_CDBD_D : ConstraintByFlags {  // body
   static constexpr Text kTable = "T_CDBD_D";
@@ -90,9 +90,9 @@ struct T_CDLC_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_CDLC_D>{Unread{"Name="}, Unread{"U1="}, Unread{"U2="},
-                                               Unread{"U3="},   Unread{"R1="}, Unread{"R2="},
-                                               Unread{"R3="}};
+inline constexpr RowKey<T_CDLC_D> kRowKeys<T_CDLC_D>[] = {
+    Unread{"Name="}, Unread{"U1="}, Unread{"U2="}, Unread{"U3="},
+    Unread{"R1="},   Unread{"R2="}, Unread{"R3="}};
 
 // ---- Target records ----
 

@@ -23,10 +23,11 @@ struct T_JTTP_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTTP_D>{
-    Key{"Joint=", &T_JTTP_D::Joint}, Key{"AngleA=", &T_JTTP_D::AngleA},
-    Key{"AngleB=", &T_JTTP_D::AngleB}, Key{"AngleC=", &T_JTTP_D::AngleC},
-    Key{"AdvanceAxes=", &T_JTTP_D::AdvanceAxes}};
+inline constexpr RowKey<T_JTTP_D> kRowKeys<T_JTTP_D>[] = {{"Joint=", &T_JTTP_D::Joint},
+                                                          {"AngleA=", &T_JTTP_D::AngleA},
+                                                          {"AngleB=", &T_JTTP_D::AngleB},
+                                                          {"AngleC=", &T_JTTP_D::AngleC},
+                                                          {"AdvanceAxes=", &T_JTTP_D::AdvanceAxes}};
 
 /// Advanced local axes of a joint: one axis, and a vector that spans a plane with it.
 struct T_JTAV_D {
@@ -51,25 +52,25 @@ struct T_JTAV_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTAV_D>{Key{"Joint=", &T_JTAV_D::Joint},
-                                               Key{"LocalPlane=", &T_JTAV_D::LocalPlane},
-                                               Key{"AxOption1=", &T_JTAV_D::AxOption1},
-                                               Unread{"AxCoordSys="},
-                                               Key{"AxCoordDir=", &T_JTAV_D::AxCoordDir},
-                                               Key{"AxVecJt1=", &T_JTAV_D::AxVecJt1},
-                                               Key{"AxVecJt2=", &T_JTAV_D::AxVecJt2},
-                                               Key{"PlOption1=", &T_JTAV_D::PlOption1},
-                                               Unread{"PlCoordSys="},
-                                               Key{"CoordDir1=", &T_JTAV_D::CoordDir1},
-                                               Key{"CoordDir2=", &T_JTAV_D::CoordDir2},
-                                               Key{"PlVecJt1=", &T_JTAV_D::PlVecJt1},
-                                               Key{"PlVecJt2=", &T_JTAV_D::PlVecJt2},
-                                               Key{"AxVecX=", &T_JTAV_D::AxVecX},
-                                               Key{"AxVecY=", &T_JTAV_D::AxVecY},
-                                               Key{"AxVecZ=", &T_JTAV_D::AxVecZ},
-                                               Key{"PlVecX=", &T_JTAV_D::PlVecX},
-                                               Key{"PlVecY=", &T_JTAV_D::PlVecY},
-                                               Key{"PlVecZ=", &T_JTAV_D::PlVecZ}};
+inline constexpr RowKey<T_JTAV_D> kRowKeys<T_JTAV_D>[] = {{"Joint=", &T_JTAV_D::Joint},
+                                                          {"LocalPlane=", &T_JTAV_D::LocalPlane},
+                                                          {"AxOption1=", &T_JTAV_D::AxOption1},
+                                                          Unread{"AxCoordSys="},
+                                                          {"AxCoordDir=", &T_JTAV_D::AxCoordDir},
+                                                          {"AxVecJt1=", &T_JTAV_D::AxVecJt1},
+                                                          {"AxVecJt2=", &T_JTAV_D::AxVecJt2},
+                                                          {"PlOption1=", &T_JTAV_D::PlOption1},
+                                                          Unread{"PlCoordSys="},
+                                                          {"CoordDir1=", &T_JTAV_D::CoordDir1},
+                                                          {"CoordDir2=", &T_JTAV_D::CoordDir2},
+                                                          {"PlVecJt1=", &T_JTAV_D::PlVecJt1},
+                                                          {"PlVecJt2=", &T_JTAV_D::PlVecJt2},
+                                                          {"AxVecX=", &T_JTAV_D::AxVecX},
+                                                          {"AxVecY=", &T_JTAV_D::AxVecY},
+                                                          {"AxVecZ=", &T_JTAV_D::AxVecZ},
+                                                          {"PlVecX=", &T_JTAV_D::PlVecX},
+                                                          {"PlVecY=", &T_JTAV_D::PlVecY},
+                                                          {"PlVecZ=", &T_JTAV_D::PlVecZ}};
 
 // ---- Target records ----
 

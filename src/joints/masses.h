@@ -23,11 +23,10 @@ struct T_JTMA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTMA_D>{
-    Key{"Joint=", &T_JTMA_D::Joint}, Key{"CoordSys=", &T_JTMA_D::CoordSys},
-    Key{"Mass1=", &T_JTMA_D::Mass1}, Key{"Mass2=", &T_JTMA_D::Mass2},
-    Key{"Mass3=", &T_JTMA_D::Mass3}, Key{"MMI1=", &T_JTMA_D::MMI1},
-    Key{"MMI2=", &T_JTMA_D::MMI2},   Key{"MMI3=", &T_JTMA_D::MMI3}};
+inline constexpr RowKey<T_JTMA_D> kRowKeys<T_JTMA_D>[] = {
+    {"Joint=", &T_JTMA_D::Joint}, {"CoordSys=", &T_JTMA_D::CoordSys}, {"Mass1=", &T_JTMA_D::Mass1},
+    {"Mass2=", &T_JTMA_D::Mass2}, {"Mass3=", &T_JTMA_D::Mass3},       {"MMI1=", &T_JTMA_D::MMI1},
+    {"MMI2=", &T_JTMA_D::MMI2},   {"MMI3=", &T_JTMA_D::MMI3}};
 
 // ---- Target records ----
 

@@ -27,20 +27,21 @@ struct T_JTCD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTCD_D>{Key{"Joint=", &T_JTCD_D::Joint},
-                                               Unread{"CoordSys="},
-                                               Key{"CoordType=", &T_JTCD_D::CoordType},
-                                               Key{"XorR=", &T_JTCD_D::XorR},
-                                               Key{"Y=", &T_JTCD_D::Y},
-                                               Unread{"T="},
-                                               Key{"Z=", &T_JTCD_D::Z},
-                                               Key{"SpecialJt=", &T_JTCD_D::SpecialJt},
-                                               Key{"GlobalX=", &T_JTCD_D::GlobalX},
-                                               Key{"GlobalY=", &T_JTCD_D::GlobalY},
-                                               Key{"GlobalZ=", &T_JTCD_D::GlobalZ},
-                                               States{"GlobalX=", &T_JTCD_D::StatesGlobal},
-                                               States{"GlobalY=", &T_JTCD_D::StatesGlobal},
-                                               States{"GlobalZ=", &T_JTCD_D::StatesGlobal}};
+inline constexpr RowKey<T_JTCD_D> kRowKeys<T_JTCD_D>[] = {
+    {"Joint=", &T_JTCD_D::Joint},
+    Unread{"CoordSys="},
+    {"CoordType=", &T_JTCD_D::CoordType},
+    {"XorR=", &T_JTCD_D::XorR},
+    {"Y=", &T_JTCD_D::Y},
+    Unread{"T="},
+    {"Z=", &T_JTCD_D::Z},
+    {"SpecialJt=", &T_JTCD_D::SpecialJt},
+    {"GlobalX=", &T_JTCD_D::GlobalX},
+    {"GlobalY=", &T_JTCD_D::GlobalY},
+    {"GlobalZ=", &T_JTCD_D::GlobalZ},
+    States{"GlobalX=", &T_JTCD_D::StatesGlobal},
+    States{"GlobalY=", &T_JTCD_D::StatesGlobal},
+    States{"GlobalZ=", &T_JTCD_D::StatesGlobal}};
 
 /// Stores the joints; a joint in cylindrical or other coordinates refuses the file without a
 /// message.

@@ -24,10 +24,10 @@ struct T_JTRA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTRA_D>{
-    Key{"Joint=", &T_JTRA_D::Joint}, Key{"U1=", &T_JTRA_D::U1}, Key{"U2=", &T_JTRA_D::U2},
-    Key{"U3=", &T_JTRA_D::U3},       Key{"R1=", &T_JTRA_D::R1}, Key{"R2=", &T_JTRA_D::R2},
-    Key{"R3=", &T_JTRA_D::R3}};
+inline constexpr RowKey<T_JTRA_D> kRowKeys<T_JTRA_D>[] = {
+    {"Joint=", &T_JTRA_D::Joint}, {"U1=", &T_JTRA_D::U1}, {"U2=", &T_JTRA_D::U2},
+    {"U3=", &T_JTRA_D::U3},       {"R1=", &T_JTRA_D::R1}, {"R2=", &T_JTRA_D::R2},
+    {"R3=", &T_JTRA_D::R3}};
 
 /// Uncoupled springs of a joint.
 struct T_JTUC_D {
@@ -43,11 +43,11 @@ struct T_JTUC_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTUC_D>{
-    Key{"Joint=", &T_JTUC_D::Joint}, Key{"CoordSys=", &T_JTUC_D::CoordSys},
-    Key{"U1=", &T_JTUC_D::U1},       Key{"U2=", &T_JTUC_D::U2},
-    Key{"U3=", &T_JTUC_D::U3},       Key{"R1=", &T_JTUC_D::R1},
-    Key{"R2=", &T_JTUC_D::R2},       Key{"R3=", &T_JTUC_D::R3}};
+inline constexpr RowKey<T_JTUC_D> kRowKeys<T_JTUC_D>[] = {
+    {"Joint=", &T_JTUC_D::Joint}, {"CoordSys=", &T_JTUC_D::CoordSys},
+    {"U1=", &T_JTUC_D::U1},       {"U2=", &T_JTUC_D::U2},
+    {"U3=", &T_JTUC_D::U3},       {"R1=", &T_JTUC_D::R1},
+    {"R2=", &T_JTUC_D::R2},       {"R3=", &T_JTUC_D::R3}};
 
 /// Coupled springs of a joint: the upper triangle of their matrix. The couplings of rotations with
 /// each other are not read.
@@ -76,17 +76,17 @@ struct T_JTSC_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTSC_D>{
-    Key{"Joint=", &T_JTSC_D::Joint}, Key{"CoordSys=", &T_JTSC_D::CoordSys},
-    Key{"U1=", &T_JTSC_D::U1},       Key{"U1U2=", &T_JTSC_D::U1U2},
-    Key{"U2=", &T_JTSC_D::U2},       Key{"U1U3=", &T_JTSC_D::U1U3},
-    Key{"U2U3=", &T_JTSC_D::U2U3},   Key{"U3=", &T_JTSC_D::U3},
-    Key{"U1R1=", &T_JTSC_D::U1R1},   Key{"U2R1=", &T_JTSC_D::U2R1},
-    Key{"U3R1=", &T_JTSC_D::U3R1},   Key{"R1=", &T_JTSC_D::R1},
-    Key{"U1R2=", &T_JTSC_D::U1R2},   Key{"U2R2=", &T_JTSC_D::U2R2},
-    Key{"U3R2=", &T_JTSC_D::U3R2},   Key{"R2=", &T_JTSC_D::R2},
-    Key{"U1R3=", &T_JTSC_D::U1R3},   Key{"U2R3=", &T_JTSC_D::U2R3},
-    Key{"U3R3=", &T_JTSC_D::U3R3},   Key{"R3=", &T_JTSC_D::R3}};
+inline constexpr RowKey<T_JTSC_D> kRowKeys<T_JTSC_D>[] = {
+    {"Joint=", &T_JTSC_D::Joint}, {"CoordSys=", &T_JTSC_D::CoordSys},
+    {"U1=", &T_JTSC_D::U1},       {"U1U2=", &T_JTSC_D::U1U2},
+    {"U2=", &T_JTSC_D::U2},       {"U1U3=", &T_JTSC_D::U1U3},
+    {"U2U3=", &T_JTSC_D::U2U3},   {"U3=", &T_JTSC_D::U3},
+    {"U1R1=", &T_JTSC_D::U1R1},   {"U2R1=", &T_JTSC_D::U2R1},
+    {"U3R1=", &T_JTSC_D::U3R1},   {"R1=", &T_JTSC_D::R1},
+    {"U1R2=", &T_JTSC_D::U1R2},   {"U2R2=", &T_JTSC_D::U2R2},
+    {"U3R2=", &T_JTSC_D::U3R2},   {"R2=", &T_JTSC_D::R2},
+    {"U1R3=", &T_JTSC_D::U1R3},   {"U2R3=", &T_JTSC_D::U2R3},
+    {"U3R3=", &T_JTSC_D::U3R3},   {"R3=", &T_JTSC_D::R3}};
 
 // ---- Target records ----
 

@@ -20,10 +20,11 @@ struct T_ALUM_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ALUM_D>{
-    Key{"Area=", &T_ALUM_D::Area}, Key{"LoadCase=", &T_ALUM_D::LoadCase},
-    Key{"CoordSys=", &T_ALUM_D::CoordSys}, Key{"Dir=", &T_ALUM_D::Dir},
-    Key{"UnifLoad=", &T_ALUM_D::UnifLoad}};
+inline constexpr RowKey<T_ALUM_D> kRowKeys<T_ALUM_D>[] = {{"Area=", &T_ALUM_D::Area},
+                                                          {"LoadCase=", &T_ALUM_D::LoadCase},
+                                                          {"CoordSys=", &T_ALUM_D::CoordSys},
+                                                          {"Dir=", &T_ALUM_D::Dir},
+                                                          {"UnifLoad=", &T_ALUM_D::UnifLoad}};
 
 /// Pressure on a face of an area.
 struct T_ALSP_D {
@@ -36,10 +37,11 @@ struct T_ALSP_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ALSP_D>{
-    Key{"Area=", &T_ALSP_D::Area}, Key{"LoadCase=", &T_ALSP_D::LoadCase},
-    Key{"Face=", &T_ALSP_D::Face}, Key{"Pressure=", &T_ALSP_D::Pressure},
-    Key{"JtPattern=", &T_ALSP_D::JtPattern}};
+inline constexpr RowKey<T_ALSP_D> kRowKeys<T_ALSP_D>[] = {{"Area=", &T_ALSP_D::Area},
+                                                          {"LoadCase=", &T_ALSP_D::LoadCase},
+                                                          {"Face=", &T_ALSP_D::Face},
+                                                          {"Pressure=", &T_ALSP_D::Pressure},
+                                                          {"JtPattern=", &T_ALSP_D::JtPattern}};
 
 // Loads on areas that have no place in the output.
 
@@ -54,14 +56,14 @@ struct T_ALWP_D {  // wind pressure coefficients
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ALRT_D>{Unread{"Area="}, Unread{"LoadCase="},
-                                               Unread{"AngularBel="}};
+inline constexpr RowKey<T_ALRT_D> kRowKeys<T_ALRT_D>[] = {Unread{"Area="}, Unread{"LoadCase="},
+                                                          Unread{"AngularBel="}};
 template <>
-inline constexpr std::tuple kRowKeys<T_ALUF_D>{Unread{"Area="},     Unread{"LoadCase="},
-                                               Unread{"CoordSys="}, Unread{"Dir="},
-                                               Unread{"UnifLoad="}, Unread{"DistType="}};
+inline constexpr RowKey<T_ALUF_D> kRowKeys<T_ALUF_D>[] = {Unread{"Area="},     Unread{"LoadCase="},
+                                                          Unread{"CoordSys="}, Unread{"Dir="},
+                                                          Unread{"UnifLoad="}, Unread{"DistType="}};
 template <>
-inline constexpr std::tuple kRowKeys<T_ALWP_D>{
+inline constexpr RowKey<T_ALWP_D> kRowKeys<T_ALWP_D>[] = {
     Unread{"Area="},       Unread{"LoadCase="},   Unread{"Windward="},  Unread{"Cp="},
     Unread{"XComponent="}, Unread{"YComponent="}, Unread{"ZComponent="}};
 

@@ -29,14 +29,14 @@ struct T_FRLD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRLD_D>{
-    Key{"Frame=", &T_FRLD_D::Frame},       Key{"LoadCase=", &T_FRLD_D::LoadCase},
-    Key{"CoordSys=", &T_FRLD_D::CoordSys}, Key{"Type=", &T_FRLD_D::Type},
-    Key{"Dir=", &T_FRLD_D::Dir},           Key{"DistType=", &T_FRLD_D::DistType},
-    Key{"RelDistA=", &T_FRLD_D::RelDistA}, Key{"RelDistB=", &T_FRLD_D::RelDistB},
-    Key{"AbsDistA=", &T_FRLD_D::AbsDistA}, Key{"AbsDistB=", &T_FRLD_D::AbsDistB},
-    Key{"FOverLA=", &T_FRLD_D::FOverLA},   Key{"FOverLB=", &T_FRLD_D::FOverLB},
-    Key{"MOverLA=", &T_FRLD_D::MOverLA},   Key{"MOverLB=", &T_FRLD_D::MOverLB}};
+inline constexpr RowKey<T_FRLD_D> kRowKeys<T_FRLD_D>[] = {
+    {"Frame=", &T_FRLD_D::Frame},       {"LoadCase=", &T_FRLD_D::LoadCase},
+    {"CoordSys=", &T_FRLD_D::CoordSys}, {"Type=", &T_FRLD_D::Type},
+    {"Dir=", &T_FRLD_D::Dir},           {"DistType=", &T_FRLD_D::DistType},
+    {"RelDistA=", &T_FRLD_D::RelDistA}, {"RelDistB=", &T_FRLD_D::RelDistB},
+    {"AbsDistA=", &T_FRLD_D::AbsDistA}, {"AbsDistB=", &T_FRLD_D::AbsDistB},
+    {"FOverLA=", &T_FRLD_D::FOverLA},   {"FOverLB=", &T_FRLD_D::FOverLB},
+    {"MOverLA=", &T_FRLD_D::MOverLA},   {"MOverLB=", &T_FRLD_D::MOverLB}};
 
 /// A load at a point of a frame.
 struct T_FRLP_D {
@@ -54,12 +54,12 @@ struct T_FRLP_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRLP_D>{
-    Key{"Frame=", &T_FRLP_D::Frame},       Key{"LoadCase=", &T_FRLP_D::LoadCase},
-    Key{"CoordSys=", &T_FRLP_D::CoordSys}, Key{"Type=", &T_FRLP_D::Type},
-    Key{"Dir=", &T_FRLP_D::Dir},           Key{"DistType=", &T_FRLP_D::DistType},
-    Key{"RelDist=", &T_FRLP_D::RelDist},   Key{"AbsDist=", &T_FRLP_D::AbsDist},
-    Key{"Force=", &T_FRLP_D::Force},       Key{"Moment=", &T_FRLP_D::Moment}};
+inline constexpr RowKey<T_FRLP_D> kRowKeys<T_FRLP_D>[] = {
+    {"Frame=", &T_FRLP_D::Frame},       {"LoadCase=", &T_FRLP_D::LoadCase},
+    {"CoordSys=", &T_FRLP_D::CoordSys}, {"Type=", &T_FRLP_D::Type},
+    {"Dir=", &T_FRLP_D::Dir},           {"DistType=", &T_FRLP_D::DistType},
+    {"RelDist=", &T_FRLP_D::RelDist},   {"AbsDist=", &T_FRLP_D::AbsDist},
+    {"Force=", &T_FRLP_D::Force},       {"Moment=", &T_FRLP_D::Moment}};
 
 /// Gravity load of a frame: factors of its weight along the global axes.
 struct T_FRLG_D {
@@ -72,12 +72,12 @@ struct T_FRLG_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRLG_D>{Key{"Frame=", &T_FRLG_D::Frame},
-                                               Key{"LoadCase=", &T_FRLG_D::LoadCase},
-                                               Unread{"CoordSys="},
-                                               Key{"MultiplierX=", &T_FRLG_D::MultiplierX},
-                                               Key{"MultiplierY=", &T_FRLG_D::MultiplierY},
-                                               Key{"MultiplierZ=", &T_FRLG_D::MultiplierZ}};
+inline constexpr RowKey<T_FRLG_D> kRowKeys<T_FRLG_D>[] = {{"Frame=", &T_FRLG_D::Frame},
+                                                          {"LoadCase=", &T_FRLG_D::LoadCase},
+                                                          Unread{"CoordSys="},
+                                                          {"MultiplierX=", &T_FRLG_D::MultiplierX},
+                                                          {"MultiplierY=", &T_FRLG_D::MultiplierY},
+                                                          {"MultiplierZ=", &T_FRLG_D::MultiplierZ}};
 
 // ---- Target records ----
 

@@ -26,15 +26,15 @@ struct T_JTLF_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTLF_D>{Key{"Joint=", &T_JTLF_D::Joint},
-                                               Key{"LoadCase=", &T_JTLF_D::LoadCase},
-                                               Key{"CoordSys=", &T_JTLF_D::CoordSys},
-                                               Key{"F1=", &T_JTLF_D::F1},
-                                               Key{"F2=", &T_JTLF_D::F2},
-                                               Key{"F3=", &T_JTLF_D::F3},
-                                               Key{"M1=", &T_JTLF_D::M1},
-                                               Key{"M2=", &T_JTLF_D::M2},
-                                               Key{"M3=", &T_JTLF_D::M3}};
+inline constexpr RowKey<T_JTLF_D> kRowKeys<T_JTLF_D>[] = {{"Joint=", &T_JTLF_D::Joint},
+                                                          {"LoadCase=", &T_JTLF_D::LoadCase},
+                                                          {"CoordSys=", &T_JTLF_D::CoordSys},
+                                                          {"F1=", &T_JTLF_D::F1},
+                                                          {"F2=", &T_JTLF_D::F2},
+                                                          {"F3=", &T_JTLF_D::F3},
+                                                          {"M1=", &T_JTLF_D::M1},
+                                                          {"M2=", &T_JTLF_D::M2},
+                                                          {"M3=", &T_JTLF_D::M3}};
 
 /// Ground displacement at a joint.
 struct T_JTGD_D {
@@ -51,15 +51,15 @@ struct T_JTGD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTGD_D>{Key{"Joint=", &T_JTGD_D::Joint},
-                                               Key{"LoadCase=", &T_JTGD_D::LoadCase},
-                                               Key{"CoordSys=", &T_JTGD_D::CoordSys},
-                                               Key{"U1=", &T_JTGD_D::U1},
-                                               Key{"U2=", &T_JTGD_D::U2},
-                                               Key{"U3=", &T_JTGD_D::U3},
-                                               Key{"R1=", &T_JTGD_D::R1},
-                                               Key{"R2=", &T_JTGD_D::R2},
-                                               Key{"R3=", &T_JTGD_D::R3}};
+inline constexpr RowKey<T_JTGD_D> kRowKeys<T_JTGD_D>[] = {{"Joint=", &T_JTGD_D::Joint},
+                                                          {"LoadCase=", &T_JTGD_D::LoadCase},
+                                                          {"CoordSys=", &T_JTGD_D::CoordSys},
+                                                          {"U1=", &T_JTGD_D::U1},
+                                                          {"U2=", &T_JTGD_D::U2},
+                                                          {"U3=", &T_JTGD_D::U3},
+                                                          {"R1=", &T_JTGD_D::R1},
+                                                          {"R2=", &T_JTGD_D::R2},
+                                                          {"R3=", &T_JTGD_D::R3}};
 
 // ---- Target records ----
 

@@ -19,9 +19,8 @@ struct T_JTPA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_JTPA_D>{Key{"Joint=", &T_JTPA_D::Joint},
-                                               Key{"Pattern=", &T_JTPA_D::Pattern},
-                                               Key{"Value=", &T_JTPA_D::Value}};
+inline constexpr RowKey<T_JTPA_D> kRowKeys<T_JTPA_D>[] = {
+    {"Joint=", &T_JTPA_D::Joint}, {"Pattern=", &T_JTPA_D::Pattern}, {"Value=", &T_JTPA_D::Value}};
 
 /// True when a row of loads goes by a joint pattern. One that does not state its JtPattern= does.
 inline bool GoesByPattern(Text jtPattern) { return jtPattern != "None"; }

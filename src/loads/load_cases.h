@@ -21,9 +21,10 @@ struct T_LDCS_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LDCS_D>{
-    Key{"LoadCase=", &T_LDCS_D::LoadCase}, Key{"DesignType=", &T_LDCS_D::DesignType},
-    Key{"AutoLoad=", &T_LDCS_D::AutoLoad}, Key{"SelfWtMult=", &T_LDCS_D::SelfWtMult}};
+inline constexpr RowKey<T_LDCS_D> kRowKeys<T_LDCS_D>[] = {{"LoadCase=", &T_LDCS_D::LoadCase},
+                                                          {"DesignType=", &T_LDCS_D::DesignType},
+                                                          {"AutoLoad=", &T_LDCS_D::AutoLoad},
+                                                          {"SelfWtMult=", &T_LDCS_D::SelfWtMult}};
 
 /// A load of a linear static analysis case. The target's load cases have no scale factors.
 struct T_STC1_D {
@@ -33,9 +34,11 @@ struct T_STC1_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_STC1_D>{Key{"Case=", &T_STC1_D::Case}, Unread{"LoadType="},
-                                               Key{"LoadName=", &T_STC1_D::LoadName},
-                                               Unread{"LoadSF="}, Unread{"TransAccSF="}};
+inline constexpr RowKey<T_STC1_D> kRowKeys<T_STC1_D>[] = {{"Case=", &T_STC1_D::Case},
+                                                          Unread{"LoadType="},
+                                                          {"LoadName=", &T_STC1_D::LoadName},
+                                                          Unread{"LoadSF="},
+                                                          Unread{"TransAccSF="}};
 
 // ---- Target records ----
 

@@ -22,11 +22,11 @@ struct T_FRLT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRLT_D>{
-    Key{"Frame=", &T_FRLT_D::Frame},         Key{"LoadCase=", &T_FRLT_D::LoadCase},
-    Key{"Type=", &T_FRLT_D::Type},           Key{"Temp=", &T_FRLT_D::Temp},
-    Key{"TempGrad2=", &T_FRLT_D::TempGrad2}, Key{"TempGrad3=", &T_FRLT_D::TempGrad3},
-    Key{"JtPattern=", &T_FRLT_D::JtPattern}};
+inline constexpr RowKey<T_FRLT_D> kRowKeys<T_FRLT_D>[] = {
+    {"Frame=", &T_FRLT_D::Frame},         {"LoadCase=", &T_FRLT_D::LoadCase},
+    {"Type=", &T_FRLT_D::Type},           {"Temp=", &T_FRLT_D::Temp},
+    {"TempGrad2=", &T_FRLT_D::TempGrad2}, {"TempGrad3=", &T_FRLT_D::TempGrad3},
+    {"JtPattern=", &T_FRLT_D::JtPattern}};
 
 /// Temperature load of an area.
 struct T_ALTM_D {
@@ -40,10 +40,10 @@ struct T_ALTM_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ALTM_D>{
-    Key{"Area=", &T_ALTM_D::Area},           Key{"LoadCase=", &T_ALTM_D::LoadCase},
-    Key{"Type=", &T_ALTM_D::Type},           Key{"Temp=", &T_ALTM_D::Temp},
-    Key{"TempGrad3=", &T_ALTM_D::TempGrad3}, Key{"JtPattern=", &T_ALTM_D::JtPattern}};
+inline constexpr RowKey<T_ALTM_D> kRowKeys<T_ALTM_D>[] = {
+    {"Area=", &T_ALTM_D::Area},           {"LoadCase=", &T_ALTM_D::LoadCase},
+    {"Type=", &T_ALTM_D::Type},           {"Temp=", &T_ALTM_D::Temp},
+    {"TempGrad3=", &T_ALTM_D::TempGrad3}, {"JtPattern=", &T_ALTM_D::JtPattern}};
 
 /// Temperature load of a solid.
 struct T_SLLT_D {
@@ -55,9 +55,10 @@ struct T_SLLT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SLLT_D>{
-    Key{"Solid=", &T_SLLT_D::Solid}, Key{"LoadCase=", &T_SLLT_D::LoadCase},
-    Key{"Temp=", &T_SLLT_D::Temp}, Key{"JtPattern=", &T_SLLT_D::JtPattern}};
+inline constexpr RowKey<T_SLLT_D> kRowKeys<T_SLLT_D>[] = {{"Solid=", &T_SLLT_D::Solid},
+                                                          {"LoadCase=", &T_SLLT_D::LoadCase},
+                                                          {"Temp=", &T_SLLT_D::Temp},
+                                                          {"JtPattern=", &T_SLLT_D::JtPattern}};
 
 /// Reference temperature of a frame, an area and a solid, at which it is free of stress.
 struct T_FRRT_D {
@@ -77,14 +78,14 @@ struct T_SLRT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_FRRT_D>{Key{"Frame=", &T_FRRT_D::Frame},
-                                               Key{"Temp=", &T_FRRT_D::Temp}, Unread{"JtPattern="}};
+inline constexpr RowKey<T_FRRT_D> kRowKeys<T_FRRT_D>[] = {
+    {"Frame=", &T_FRRT_D::Frame}, {"Temp=", &T_FRRT_D::Temp}, Unread{"JtPattern="}};
 template <>
-inline constexpr std::tuple kRowKeys<T_AMRT_D>{Key{"Area=", &T_AMRT_D::Area},
-                                               Key{"Temp=", &T_AMRT_D::Temp}, Unread{"JtPattern="}};
+inline constexpr RowKey<T_AMRT_D> kRowKeys<T_AMRT_D>[] = {
+    {"Area=", &T_AMRT_D::Area}, {"Temp=", &T_AMRT_D::Temp}, Unread{"JtPattern="}};
 template <>
-inline constexpr std::tuple kRowKeys<T_SLRT_D>{Key{"Solid=", &T_SLRT_D::Solid},
-                                               Key{"Temp=", &T_SLRT_D::Temp}, Unread{"JtPattern="}};
+inline constexpr RowKey<T_SLRT_D> kRowKeys<T_SLRT_D>[] = {
+    {"Solid=", &T_SLRT_D::Solid}, {"Temp=", &T_SLRT_D::Temp}, Unread{"JtPattern="}};
 
 /// Material temperatures of areas. They have no place in the output.
 struct T_AMMT_D {
@@ -92,7 +93,7 @@ struct T_AMMT_D {
 };
 
 template <>
-inline constexpr std::tuple<> kRowKeys<T_AMMT_D>{};
+inline constexpr NoRowKeys<T_AMMT_D> kRowKeys<T_AMMT_D>{};
 
 // ---- Target records ----
 

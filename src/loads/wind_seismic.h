@@ -32,29 +32,29 @@ struct T_SUB7_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SUB7_D>{Key{"LoadCase=", &T_SUB7_D::LoadCase},
-                                               Key{"Dir=", &T_SUB7_D::Dir},
-                                               Unread{"PercentEcc="},
-                                               Unread{"EccOverride="},
-                                               Key{"PeriodCalc=", &T_SUB7_D::PeriodCalc},
-                                               Key{"Ct=", &T_SUB7_D::Ct},
-                                               Key{"UserT=", &T_SUB7_D::UserT},
-                                               Unread{"MaxZ="},
-                                               Unread{"MinZ="},
-                                               Key{"R=", &T_SUB7_D::R},
-                                               Key{"SoilType=", &T_SUB7_D::SoilType},
-                                               Key{"Z=", &T_SUB7_D::Z},
-                                               Key{"SourceType=", &T_SUB7_D::SourceType},
-                                               Unread{"Ca="},
-                                               Unread{"Cv="},
-                                               Key{"SourceDist=", &T_SUB7_D::SourceDist},
-                                               Unread{"Na="},
-                                               Unread{"Nv="},
-                                               Key{"I=", &T_SUB7_D::I},
-                                               Unread{"TUsed="},
-                                               Unread{"WeightUsed="},
-                                               Unread{"BaseShear="},
-                                               Unread{"FtUsed="}};
+inline constexpr RowKey<T_SUB7_D> kRowKeys<T_SUB7_D>[] = {{"LoadCase=", &T_SUB7_D::LoadCase},
+                                                          {"Dir=", &T_SUB7_D::Dir},
+                                                          Unread{"PercentEcc="},
+                                                          Unread{"EccOverride="},
+                                                          {"PeriodCalc=", &T_SUB7_D::PeriodCalc},
+                                                          {"Ct=", &T_SUB7_D::Ct},
+                                                          {"UserT=", &T_SUB7_D::UserT},
+                                                          Unread{"MaxZ="},
+                                                          Unread{"MinZ="},
+                                                          {"R=", &T_SUB7_D::R},
+                                                          {"SoilType=", &T_SUB7_D::SoilType},
+                                                          {"Z=", &T_SUB7_D::Z},
+                                                          {"SourceType=", &T_SUB7_D::SourceType},
+                                                          Unread{"Ca="},
+                                                          Unread{"Cv="},
+                                                          {"SourceDist=", &T_SUB7_D::SourceDist},
+                                                          Unread{"Na="},
+                                                          Unread{"Nv="},
+                                                          {"I=", &T_SUB7_D::I},
+                                                          Unread{"TUsed="},
+                                                          Unread{"WeightUsed="},
+                                                          Unread{"BaseShear="},
+                                                          Unread{"FtUsed="}};
 
 /// Earthquake by NBCC 95.
 struct T_SNBC_D {
@@ -71,28 +71,28 @@ struct T_SNBC_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SNBC_D>{Key{"LoadCase=", &T_SNBC_D::LoadCase},
-                                               Key{"Dir=", &T_SNBC_D::Dir},
-                                               Unread{"PercentEcc="},
-                                               Unread{"EccOverride="},
-                                               Unread{"StructType="},
-                                               Unread{"PeriodCalc="},
-                                               Unread{"Ds="},
-                                               Key{"UserT=", &T_SNBC_D::UserT},
-                                               Unread{"MaxZ="},
-                                               Unread{"MinZ="},
-                                               Key{"R=", &T_SNBC_D::R},
-                                               Key{"Za=", &T_SNBC_D::Za},
-                                               Key{"Zv=", &T_SNBC_D::Zv},
-                                               Unread{"VType="},
-                                               Key{"V=", &T_SNBC_D::V},
-                                               Key{"I=", &T_SNBC_D::I},
-                                               Key{"F=", &T_SNBC_D::F},
-                                               Unread{"TUsed="},
-                                               Unread{"FSUsed="},
-                                               Unread{"WeightUsed="},
-                                               Unread{"BaseShear="},
-                                               Unread{"FtUsed="}};
+inline constexpr RowKey<T_SNBC_D> kRowKeys<T_SNBC_D>[] = {{"LoadCase=", &T_SNBC_D::LoadCase},
+                                                          {"Dir=", &T_SNBC_D::Dir},
+                                                          Unread{"PercentEcc="},
+                                                          Unread{"EccOverride="},
+                                                          Unread{"StructType="},
+                                                          Unread{"PeriodCalc="},
+                                                          Unread{"Ds="},
+                                                          {"UserT=", &T_SNBC_D::UserT},
+                                                          Unread{"MaxZ="},
+                                                          Unread{"MinZ="},
+                                                          {"R=", &T_SNBC_D::R},
+                                                          {"Za=", &T_SNBC_D::Za},
+                                                          {"Zv=", &T_SNBC_D::Zv},
+                                                          Unread{"VType="},
+                                                          {"V=", &T_SNBC_D::V},
+                                                          {"I=", &T_SNBC_D::I},
+                                                          {"F=", &T_SNBC_D::F},
+                                                          Unread{"TUsed="},
+                                                          Unread{"FSUsed="},
+                                                          Unread{"WeightUsed="},
+                                                          Unread{"BaseShear="},
+                                                          Unread{"FtUsed="}};
 
 /// Wind by UBC 97.
 struct T_WUB7_D {
@@ -105,17 +105,17 @@ struct T_WUB7_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_WUB7_D>{Key{"LoadCase=", &T_WUB7_D::LoadCase},
-                                               Unread{"ExposeFrom="},
-                                               Key{"Exposure=", &T_WUB7_D::Exposure},
-                                               Unread{"ExpWidth="},
-                                               Unread{"Angle="},
-                                               Unread{"WindwardCq="},
-                                               Unread{"LeewardCq="},
-                                               Key{"MaxZ=", &T_WUB7_D::MaxZ},
-                                               Unread{"MinZ="},
-                                               Key{"WindSpeed=", &T_WUB7_D::WindSpeed},
-                                               Key{"I=", &T_WUB7_D::I}};
+inline constexpr RowKey<T_WUB7_D> kRowKeys<T_WUB7_D>[] = {{"LoadCase=", &T_WUB7_D::LoadCase},
+                                                          Unread{"ExposeFrom="},
+                                                          {"Exposure=", &T_WUB7_D::Exposure},
+                                                          Unread{"ExpWidth="},
+                                                          Unread{"Angle="},
+                                                          Unread{"WindwardCq="},
+                                                          Unread{"LeewardCq="},
+                                                          {"MaxZ=", &T_WUB7_D::MaxZ},
+                                                          Unread{"MinZ="},
+                                                          {"WindSpeed=", &T_WUB7_D::WindSpeed},
+                                                          {"I=", &T_WUB7_D::I}};
 
 /// Wind by ASCE 7-98, which goes over to the target's IBC 2000.
 struct T_WAS8_D {
@@ -130,20 +130,20 @@ struct T_WAS8_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_WAS8_D>{Key{"LoadCase=", &T_WAS8_D::LoadCase},
-                                               Unread{"ExposeFrom="},
-                                               Key{"Exposure=", &T_WAS8_D::Exposure},
-                                               Unread{"ExpWidth="},
-                                               Unread{"Angle="},
-                                               Unread{"WindwardCp="},
-                                               Unread{"LeewardCp="},
-                                               Key{"MaxZ=", &T_WAS8_D::MaxZ},
-                                               Unread{"MinZ="},
-                                               Key{"WindSpeed=", &T_WAS8_D::WindSpeed},
-                                               Key{"I=", &T_WAS8_D::I},
-                                               Unread{"Kzt="},
-                                               Key{"GustFactor=", &T_WAS8_D::GustFactor},
-                                               Key{"Kd=", &T_WAS8_D::Kd}};
+inline constexpr RowKey<T_WAS8_D> kRowKeys<T_WAS8_D>[] = {{"LoadCase=", &T_WAS8_D::LoadCase},
+                                                          Unread{"ExposeFrom="},
+                                                          {"Exposure=", &T_WAS8_D::Exposure},
+                                                          Unread{"ExpWidth="},
+                                                          Unread{"Angle="},
+                                                          Unread{"WindwardCp="},
+                                                          Unread{"LeewardCp="},
+                                                          {"MaxZ=", &T_WAS8_D::MaxZ},
+                                                          Unread{"MinZ="},
+                                                          {"WindSpeed=", &T_WAS8_D::WindSpeed},
+                                                          {"I=", &T_WAS8_D::I},
+                                                          Unread{"Kzt="},
+                                                          {"GustFactor=", &T_WAS8_D::GustFactor},
+                                                          {"Kd=", &T_WAS8_D::Kd}};
 
 /// Wind by NBCC 95.
 struct T_WNBC_D {
@@ -154,16 +154,16 @@ struct T_WNBC_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_WNBC_D>{Key{"LoadCase=", &T_WNBC_D::LoadCase},
-                                               Unread{"ExposeFrom="},
-                                               Unread{"ExpWidth="},
-                                               Unread{"Angle="},
-                                               Unread{"WindwardCp="},
-                                               Unread{"LeewardCp="},
-                                               Unread{"MaxZ="},
-                                               Unread{"MinZ="},
-                                               Key{"VelPressure=", &T_WNBC_D::VelPressure},
-                                               Key{"Cg=", &T_WNBC_D::Cg}};
+inline constexpr RowKey<T_WNBC_D> kRowKeys<T_WNBC_D>[] = {{"LoadCase=", &T_WNBC_D::LoadCase},
+                                                          Unread{"ExposeFrom="},
+                                                          Unread{"ExpWidth="},
+                                                          Unread{"Angle="},
+                                                          Unread{"WindwardCp="},
+                                                          Unread{"LeewardCp="},
+                                                          Unread{"MaxZ="},
+                                                          Unread{"MinZ="},
+                                                          {"VelPressure=", &T_WNBC_D::VelPressure},
+                                                          {"Cg=", &T_WNBC_D::Cg}};
 
 // ---- Target records ----
 

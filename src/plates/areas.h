@@ -24,13 +24,13 @@ struct T_CNAR_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_CNAR_D>{Key{"Area=", &T_CNAR_D::Area},
-                                               Key{"Joint1=", &T_CNAR_D::Joint1},
-                                               Key{"Joint2=", &T_CNAR_D::Joint2},
-                                               Key{"Joint3=", &T_CNAR_D::Joint3},
-                                               Key{"Joint4=", &T_CNAR_D::Joint4},
-                                               Key{"AreaArea=", &T_CNAR_D::AreaArea},
-                                               Unread{"Volume="}};
+inline constexpr RowKey<T_CNAR_D> kRowKeys<T_CNAR_D>[] = {{"Area=", &T_CNAR_D::Area},
+                                                          {"Joint1=", &T_CNAR_D::Joint1},
+                                                          {"Joint2=", &T_CNAR_D::Joint2},
+                                                          {"Joint3=", &T_CNAR_D::Joint3},
+                                                          {"Joint4=", &T_CNAR_D::Joint4},
+                                                          {"AreaArea=", &T_CNAR_D::AreaArea},
+                                                          Unread{"Volume="}};
 
 /// Section assignment of an area.
 struct T_ASCA_D {
@@ -40,8 +40,8 @@ struct T_ASCA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ASCA_D>{
-    Key{"Area=", &T_ASCA_D::Area}, Key{"Section=", &T_ASCA_D::Section}, Unread{"MatProp="}};
+inline constexpr RowKey<T_ASCA_D> kRowKeys<T_ASCA_D>[] = {
+    {"Area=", &T_ASCA_D::Area}, {"Section=", &T_ASCA_D::Section}, Unread{"MatProp="}};
 
 /// An area section. Its row's key is the number of the section and of its thickness.
 struct T_ASPR_D {
@@ -55,15 +55,31 @@ struct T_ASPR_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ASPR_D>{
-    Key{"Section=", &T_ASPR_D::Section}, Key{"Material=", &T_ASPR_D::Material}, Unread{"MatAngle="},
-    Key{"AreaType=", &T_ASPR_D::AreaType},
+inline constexpr RowKey<T_ASPR_D> kRowKeys<T_ASPR_D>[] = {
+    {"Section=", &T_ASPR_D::Section},
+    {"Material=", &T_ASPR_D::Material},
+    Unread{"MatAngle="},
+    {"AreaType=", &T_ASPR_D::AreaType},
     // with a blank, so that it is not met inside AreaType=
-    Key{" Type=", &T_ASPR_D::Type}, Key{"Thickness=", &T_ASPR_D::Thickness},
-    Key{"BendThick=", &T_ASPR_D::BendThick}, Unread{"Arc="}, Unread{"InComp="}, Unread{"CoordSys="},
-    Unread{"Color="}, Unread{"TotalWt="}, Unread{"TotalMass="}, Unread{"F11Mod="},
-    Unread{"F22Mod="}, Unread{"F12Mod="}, Unread{"M11Mod="}, Unread{"M22Mod="}, Unread{"M12Mod="},
-    Unread{"V13Mod="}, Unread{"V23Mode="}, Unread{"MMod="}, Unread{"WMod="}};
+    {" Type=", &T_ASPR_D::Type},
+    {"Thickness=", &T_ASPR_D::Thickness},
+    {"BendThick=", &T_ASPR_D::BendThick},
+    Unread{"Arc="},
+    Unread{"InComp="},
+    Unread{"CoordSys="},
+    Unread{"Color="},
+    Unread{"TotalWt="},
+    Unread{"TotalMass="},
+    Unread{"F11Mod="},
+    Unread{"F22Mod="},
+    Unread{"F12Mod="},
+    Unread{"M11Mod="},
+    Unread{"M22Mod="},
+    Unread{"M12Mod="},
+    Unread{"V13Mod="},
+    Unread{"V23Mode="},
+    Unread{"MMod="},
+    Unread{"WMod="}};
 
 /// Gravity loads of areas; the stages only ask whether there are any.
 struct T_ALGR_D {
@@ -71,7 +87,7 @@ struct T_ALGR_D {
 };
 
 template <>
-inline constexpr std::tuple<> kRowKeys<T_ALGR_D>{};
+inline constexpr NoRowKeys<T_ALGR_D> kRowKeys<T_ALGR_D>{};
 
 /// Section modifiers of areas. Their table is refused, so that there are never any.
 struct T_ASMD_D {

@@ -23,16 +23,16 @@ struct T_SMLA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SMLA_D>{Key{"Link=", &T_SMLA_D::Link},
-                                               Key{"LinkType=", &T_SMLA_D::LinkType},
-                                               Key{"LinkJoint=", &T_SMLA_D::LinkJoint},
-                                               Key{"LinkProp=", &T_SMLA_D::LinkProp},
-                                               Key{"LocalAxes=", &T_SMLA_D::LocalAxes},
-                                               Unread{"GravLoads="},
-                                               Unread{"Length="},
-                                               Unread{"CentroidX="},
-                                               Unread{"CentroidY="},
-                                               Unread{"CentroidZ="}};
+inline constexpr RowKey<T_SMLA_D> kRowKeys<T_SMLA_D>[] = {{"Link=", &T_SMLA_D::Link},
+                                                          {"LinkType=", &T_SMLA_D::LinkType},
+                                                          {"LinkJoint=", &T_SMLA_D::LinkJoint},
+                                                          {"LinkProp=", &T_SMLA_D::LinkProp},
+                                                          {"LocalAxes=", &T_SMLA_D::LocalAxes},
+                                                          Unread{"GravLoads="},
+                                                          Unread{"Length="},
+                                                          Unread{"CentroidX="},
+                                                          Unread{"CentroidY="},
+                                                          Unread{"CentroidZ="}};
 
 /// Connectivity of a link.
 struct T_CNLK_D {
@@ -43,9 +43,10 @@ struct T_CNLK_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_CNLK_D>{
-    Key{"Link=", &T_CNLK_D::Link}, Key{"JointI=", &T_CNLK_D::JointI},
-    Key{"JointJ=", &T_CNLK_D::JointJ}, Unread{"Length="}};
+inline constexpr RowKey<T_CNLK_D> kRowKeys<T_CNLK_D>[] = {{"Link=", &T_CNLK_D::Link},
+                                                          {"JointI=", &T_CNLK_D::JointI},
+                                                          {"JointJ=", &T_CNLK_D::JointJ},
+                                                          Unread{"Length="}};
 
 /// Typical local axes of a link.
 struct T_LLCT_D {
@@ -56,9 +57,9 @@ struct T_LLCT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LLCT_D>{Key{"Link=", &T_LLCT_D::Link},
-                                               Key{"Angle=", &T_LLCT_D::Angle},
-                                               Key{"AdvanceAxes=", &T_LLCT_D::AdvanceAxes}};
+inline constexpr RowKey<T_LLCT_D> kRowKeys<T_LLCT_D>[] = {{"Link=", &T_LLCT_D::Link},
+                                                          {"Angle=", &T_LLCT_D::Angle},
+                                                          {"AdvanceAxes=", &T_LLCT_D::AdvanceAxes}};
 
 /// Advanced local axes of a link: the plane that two of its axes span.
 struct T_LLCA_D {
@@ -75,25 +76,25 @@ struct T_LLCA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LLCA_D>{Key{"Link=", &T_LLCA_D::Link},
-                                               Key{"LocalPlane=", &T_LLCA_D::LocalPlane},
-                                               Unread{"AxOption1="},
-                                               Unread{"AxCoordSys="},
-                                               Unread{"AxCoordDir="},
-                                               Unread{"AxVecJt1="},
-                                               Unread{"AxVecJt2="},
-                                               Key{"PlOption1=", &T_LLCA_D::PlOption1},
-                                               Unread{"PlCoordSys="},
-                                               Key{"CoordDir1=", &T_LLCA_D::CoordDir1},
-                                               Key{"CoordDir2=", &T_LLCA_D::CoordDir2},
-                                               Key{"PlVecJt1=", &T_LLCA_D::PlVecJt1},
-                                               Key{"PlVecJt2=", &T_LLCA_D::PlVecJt2},
-                                               Unread{"AxVecX="},
-                                               Unread{"AxVecY="},
-                                               Unread{"AxVecZ="},
-                                               Unread{"PlVecX="},
-                                               Key{"PlVecY=", &T_LLCA_D::PlVecY},
-                                               Key{"PlVecZ=", &T_LLCA_D::PlVecZ}};
+inline constexpr RowKey<T_LLCA_D> kRowKeys<T_LLCA_D>[] = {{"Link=", &T_LLCA_D::Link},
+                                                          {"LocalPlane=", &T_LLCA_D::LocalPlane},
+                                                          Unread{"AxOption1="},
+                                                          Unread{"AxCoordSys="},
+                                                          Unread{"AxCoordDir="},
+                                                          Unread{"AxVecJt1="},
+                                                          Unread{"AxVecJt2="},
+                                                          {"PlOption1=", &T_LLCA_D::PlOption1},
+                                                          Unread{"PlCoordSys="},
+                                                          {"CoordDir1=", &T_LLCA_D::CoordDir1},
+                                                          {"CoordDir2=", &T_LLCA_D::CoordDir2},
+                                                          {"PlVecJt1=", &T_LLCA_D::PlVecJt1},
+                                                          {"PlVecJt2=", &T_LLCA_D::PlVecJt2},
+                                                          Unread{"AxVecX="},
+                                                          Unread{"AxVecY="},
+                                                          Unread{"AxVecZ="},
+                                                          Unread{"PlVecX="},
+                                                          {"PlVecY=", &T_LLCA_D::PlVecY},
+                                                          {"PlVecZ=", &T_LLCA_D::PlVecZ}};
 
 // In the tables of properties Link= names the property.
 
@@ -106,18 +107,18 @@ struct T_LPGN_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPGN_D>{Key{"Link=", &T_LPGN_D::Link},
-                                               Key{"LinkType=", &T_LPGN_D::LinkType},
-                                               Unread{"Mass="},
-                                               Key{"Weight=", &T_LPGN_D::Weight},
-                                               Unread{"RotInert1="},
-                                               Unread{"RotInert2="},
-                                               Unread{"RotInert3="},
-                                               Unread{"PDM2I="},
-                                               Unread{"PDM2J="},
-                                               Unread{"PDM3I="},
-                                               Unread{"PDM3J="},
-                                               Unread{"Color="}};
+inline constexpr RowKey<T_LPGN_D> kRowKeys<T_LPGN_D>[] = {{"Link=", &T_LPGN_D::Link},
+                                                          {"LinkType=", &T_LPGN_D::LinkType},
+                                                          Unread{"Mass="},
+                                                          {"Weight=", &T_LPGN_D::Weight},
+                                                          Unread{"RotInert1="},
+                                                          Unread{"RotInert2="},
+                                                          Unread{"RotInert3="},
+                                                          Unread{"PDM2I="},
+                                                          Unread{"PDM2J="},
+                                                          Unread{"PDM3I="},
+                                                          Unread{"PDM3J="},
+                                                          Unread{"Color="}};
 
 /// A direction of a linear property.
 struct T_LPLN_D {
@@ -130,13 +131,10 @@ struct T_LPLN_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPLN_D>{Key{"Link=", &T_LPLN_D::Link},
-                                               Key{"DOF=", &T_LPLN_D::DOF},
-                                               Key{"TransKE=", &T_LPLN_D::TransKE},
-                                               Key{"RotKE=", &T_LPLN_D::RotKE},
-                                               Unread{"TransCE="},
-                                               Unread{"RotCE="},
-                                               Key{"DJ=", &T_LPLN_D::DJ}};
+inline constexpr RowKey<T_LPLN_D> kRowKeys<T_LPLN_D>[] = {
+    {"Link=", &T_LPLN_D::Link},   {"DOF=", &T_LPLN_D::DOF}, {"TransKE=", &T_LPLN_D::TransKE},
+    {"RotKE=", &T_LPLN_D::RotKE}, Unread{"TransCE="},       Unread{"RotCE="},
+    {"DJ=", &T_LPLN_D::DJ}};
 
 /// What a direction of every nonlinear property has: its linear stiffness and damping. Keys of
 /// translations begin with Trans, those of rotations with Rot.
@@ -151,15 +149,11 @@ struct NonlinearDirection {
   double DJ = 0.0;
 };
 
-inline constexpr std::tuple kNonlinearDirectionKeys{
-    Key{"Link=", &NonlinearDirection::Link},
-    Key{"DOF=", &NonlinearDirection::DOF},
-    Key{"NonLinear=", &NonlinearDirection::NonLinear},
-    Key{"TransKE=", &NonlinearDirection::TransKE},
-    Key{"RotKE=", &NonlinearDirection::RotKE},
-    Key{"TransCE=", &NonlinearDirection::TransCE},
-    Key{"RotCE=", &NonlinearDirection::RotCE},
-    Key{"DJ=", &NonlinearDirection::DJ}};
+inline constexpr RowKey<NonlinearDirection> kNonlinearDirectionKeys[] = {
+    {"Link=", &NonlinearDirection::Link},           {"DOF=", &NonlinearDirection::DOF},
+    {"NonLinear=", &NonlinearDirection::NonLinear}, {"TransKE=", &NonlinearDirection::TransKE},
+    {"RotKE=", &NonlinearDirection::RotKE},         {"TransCE=", &NonlinearDirection::TransCE},
+    {"RotCE=", &NonlinearDirection::RotCE},         {"DJ=", &NonlinearDirection::DJ}};
 
 /// A damper.
 struct T_LPDM_D : NonlinearDirection {
@@ -172,11 +166,12 @@ struct T_LPDM_D : NonlinearDirection {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPDM_D> =
-    std::tuple_cat(kNonlinearDirectionKeys,
-                   std::tuple{Key{"TransK=", &T_LPDM_D::TransK}, Key{"RotK=", &T_LPDM_D::RotK},
-                              Key{"TransC=", &T_LPDM_D::TransC}, Key{"RotC=", &T_LPDM_D::RotC},
-                              Key{"CExp=", &T_LPDM_D::CExp}});
+inline constexpr auto kRowKeys<T_LPDM_D> = JoinKeys<T_LPDM_D>(kNonlinearDirectionKeys,
+                                                              {{"TransK=", &T_LPDM_D::TransK},
+                                                               {"RotK=", &T_LPDM_D::RotK},
+                                                               {"TransC=", &T_LPDM_D::TransC},
+                                                               {"RotC=", &T_LPDM_D::RotC},
+                                                               {"CExp=", &T_LPDM_D::CExp}});
 
 /// What gaps and hooks have beside.
 struct Opening : NonlinearDirection {
@@ -187,10 +182,11 @@ struct Opening : NonlinearDirection {
 };
 
 template <std::derived_from<Opening> Record>
-inline constexpr std::tuple kRowKeys<Record> = std::tuple_cat(
-    kNonlinearDirectionKeys,
-    std::tuple{Key{"TransK=", &Opening::TransK}, Key{"RotK=", &Opening::RotK},
-               Key{"TransOpen=", &Opening::TransOpen}, Key{"RotOpen=", &Opening::RotOpen}});
+inline constexpr auto kRowKeys<Record> = JoinKeys<Record>(kNonlinearDirectionKeys,
+                                                          {{"TransK=", &Opening::TransK},
+                                                           {"RotK=", &Opening::RotK},
+                                                           {"TransOpen=", &Opening::TransOpen},
+                                                           {"RotOpen=", &Opening::RotOpen}});
 
 struct T_LPGP_D : Opening {  // gap
   static constexpr Text kTable = "T_LPGP_D";
@@ -208,10 +204,10 @@ struct T_LPRB_D : NonlinearDirection {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPRB_D> =
-    std::tuple_cat(kNonlinearDirectionKeys, std::tuple{Key{"TransK=", &T_LPRB_D::TransK},
-                                                       Key{"TransYield=", &T_LPRB_D::TransYield},
-                                                       Key{"Ratio=", &T_LPRB_D::Ratio}});
+inline constexpr auto kRowKeys<T_LPRB_D> =
+    JoinKeys<T_LPRB_D>(kNonlinearDirectionKeys, {{"TransK=", &T_LPRB_D::TransK},
+                                                 {"TransYield=", &T_LPRB_D::TransYield},
+                                                 {"Ratio=", &T_LPRB_D::Ratio}});
 
 /// A friction isolator.
 struct T_LPSL_D : NonlinearDirection {
@@ -224,11 +220,12 @@ struct T_LPSL_D : NonlinearDirection {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPSL_D> =
-    std::tuple_cat(kNonlinearDirectionKeys,
-                   std::tuple{Key{"TransK=", &T_LPSL_D::TransK}, Key{"Slow=", &T_LPSL_D::Slow},
-                              Key{"Fast=", &T_LPSL_D::Fast}, Key{"Rate=", &T_LPSL_D::Rate},
-                              Key{"Radius=", &T_LPSL_D::Radius}});
+inline constexpr auto kRowKeys<T_LPSL_D> = JoinKeys<T_LPSL_D>(kNonlinearDirectionKeys,
+                                                              {{"TransK=", &T_LPSL_D::TransK},
+                                                               {"Slow=", &T_LPSL_D::Slow},
+                                                               {"Fast=", &T_LPSL_D::Fast},
+                                                               {"Rate=", &T_LPSL_D::Rate},
+                                                               {"Radius=", &T_LPSL_D::Radius}});
 
 /// A plastic link of Wen's kind.
 struct T_LPPW_D : NonlinearDirection {
@@ -242,11 +239,13 @@ struct T_LPPW_D : NonlinearDirection {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPPW_D> = std::tuple_cat(
-    kNonlinearDirectionKeys,
-    std::tuple{Key{"TransK=", &T_LPPW_D::TransK}, Key{"RotK=", &T_LPPW_D::RotK},
-               Key{"TransYield=", &T_LPPW_D::TransYield}, Key{"RotYield=", &T_LPPW_D::RotYield},
-               Key{"Ratio=", &T_LPPW_D::Ratio}, Key{"YieldExp=", &T_LPPW_D::YieldExp}});
+inline constexpr auto kRowKeys<T_LPPW_D> =
+    JoinKeys<T_LPPW_D>(kNonlinearDirectionKeys, {{"TransK=", &T_LPPW_D::TransK},
+                                                 {"RotK=", &T_LPPW_D::RotK},
+                                                 {"TransYield=", &T_LPPW_D::TransYield},
+                                                 {"RotYield=", &T_LPPW_D::RotYield},
+                                                 {"Ratio=", &T_LPPW_D::Ratio},
+                                                 {"YieldExp=", &T_LPPW_D::YieldExp}});
 
 /// A multilinear link, which the target does not have.
 struct T_LPMT_D {
@@ -254,7 +253,7 @@ struct T_LPMT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPMT_D>{
+inline constexpr RowKey<T_LPMT_D> kRowKeys<T_LPMT_D>[] = {
     Unread{"Link="},  Unread{"DOF="},     Unread{"NonLinear="}, Unread{"TransKE="},
     Unread{"RotKE="}, Unread{"TransCE="}, Unread{"RotCE="},     Unread{"DJ="}};
 
@@ -264,7 +263,7 @@ struct T_LPPK_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_LPPK_D>{
+inline constexpr RowKey<T_LPPK_D> kRowKeys<T_LPPK_D>[] = {
     Unread{"Link="},    Unread{"DOF="},     Unread{"NonLinear="}, Unread{"TransKE="},
     Unread{"RotKE="},   Unread{"TransCE="}, Unread{"RotCE="},     Unread{"DJ="},
     Unread{"Point="},   Unread{"Force="},   Unread{"Displ="},     Unread{"Moment="},
@@ -276,7 +275,7 @@ struct T_LPAN_D {
 };
 
 template <>
-inline constexpr std::tuple<> kRowKeys<T_LPAN_D>{};
+inline constexpr NoRowKeys<T_LPAN_D> kRowKeys<T_LPAN_D>{};
 
 /// Gravity loads of links. They have no place in the output.
 struct T_LLDG_D {
@@ -284,7 +283,7 @@ struct T_LLDG_D {
 };
 
 template <>
-inline constexpr std::tuple<> kRowKeys<T_LLDG_D>{};
+inline constexpr NoRowKeys<T_LLDG_D> kRowKeys<T_LLDG_D>{};
 
 // ---- Target records ----
 

@@ -23,9 +23,10 @@ struct T_ASPA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ASPA_D>{
-    Key{"Area=", &T_ASPA_D::Area}, Key{"Face=", &T_ASPA_D::Face}, Key{"Dir=", &T_ASPA_D::Dir},
-    Key{"Stiffness=", &T_ASPA_D::Stiffness}};
+inline constexpr RowKey<T_ASPA_D> kRowKeys<T_ASPA_D>[] = {{"Area=", &T_ASPA_D::Area},
+                                                          {"Face=", &T_ASPA_D::Face},
+                                                          {"Dir=", &T_ASPA_D::Dir},
+                                                          {"Stiffness=", &T_ASPA_D::Stiffness}};
 
 /// Added mass of an area.
 struct T_ADMA_D {
@@ -35,8 +36,8 @@ struct T_ADMA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_ADMA_D>{Key{"Area=", &T_ADMA_D::Area},
-                                               Key{"MassPerArea=", &T_ADMA_D::MassPerArea}};
+inline constexpr RowKey<T_ADMA_D> kRowKeys<T_ADMA_D>[] = {{"Area=", &T_ADMA_D::Area},
+                                                          {"MassPerArea=", &T_ADMA_D::MassPerArea}};
 
 // ---- Conversion ----
 

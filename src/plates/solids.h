@@ -27,12 +27,12 @@ struct T_CNSL_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_CNSL_D>{
-    Key{"Solid=", &T_CNSL_D::Solid},   Key{"Joint1=", &T_CNSL_D::Joint1},
-    Key{"Joint2=", &T_CNSL_D::Joint2}, Key{"Joint3=", &T_CNSL_D::Joint3},
-    Key{"Joint4=", &T_CNSL_D::Joint4}, Key{"Joint5=", &T_CNSL_D::Joint5},
-    Key{"Joint6=", &T_CNSL_D::Joint6}, Key{"Joint7=", &T_CNSL_D::Joint7},
-    Key{"Joint8=", &T_CNSL_D::Joint8}, Unread{"Volume="}};
+inline constexpr RowKey<T_CNSL_D> kRowKeys<T_CNSL_D>[] = {
+    {"Solid=", &T_CNSL_D::Solid},   {"Joint1=", &T_CNSL_D::Joint1},
+    {"Joint2=", &T_CNSL_D::Joint2}, {"Joint3=", &T_CNSL_D::Joint3},
+    {"Joint4=", &T_CNSL_D::Joint4}, {"Joint5=", &T_CNSL_D::Joint5},
+    {"Joint6=", &T_CNSL_D::Joint6}, {"Joint7=", &T_CNSL_D::Joint7},
+    {"Joint8=", &T_CNSL_D::Joint8}, Unread{"Volume="}};
 
 /// The eight joints of a solid, those that it does not have empty.
 std::array<Text, 8> JointsOf(const T_CNSL_D& solid);
@@ -45,8 +45,8 @@ struct T_SLPA_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SLPA_D>{Key{"Solid=", &T_SLPA_D::Solid},
-                                               Key{"SolidProp=", &T_SLPA_D::SolidProp}};
+inline constexpr RowKey<T_SLPA_D> kRowKeys<T_SLPA_D>[] = {{"Solid=", &T_SLPA_D::Solid},
+                                                          {"SolidProp=", &T_SLPA_D::SolidProp}};
 
 /// A solid property. The angles of its material have no place in the output.
 struct T_SLPD_D {
@@ -56,15 +56,15 @@ struct T_SLPD_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SLPD_D>{Key{"SolidProp=", &T_SLPD_D::SolidProp},
-                                               Key{"Material=", &T_SLPD_D::Material},
-                                               Unread{"MatAngleA="},
-                                               Unread{"MatAngleB="},
-                                               Unread{"MatAngleC="},
-                                               Unread{"InComp="},
-                                               Unread{"Color="},
-                                               Unread{"TotalWt="},
-                                               Unread{"TotalMass="}};
+inline constexpr RowKey<T_SLPD_D> kRowKeys<T_SLPD_D>[] = {{"SolidProp=", &T_SLPD_D::SolidProp},
+                                                          {"Material=", &T_SLPD_D::Material},
+                                                          Unread{"MatAngleA="},
+                                                          Unread{"MatAngleB="},
+                                                          Unread{"MatAngleC="},
+                                                          Unread{"InComp="},
+                                                          Unread{"Color="},
+                                                          Unread{"TotalWt="},
+                                                          Unread{"TotalMass="}};
 
 /// Gravity loads of solids; the conversion only asks whether there are any.
 struct T_SLLG_D {
@@ -72,9 +72,9 @@ struct T_SLLG_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SLLG_D>{Unread{"Solid="},       Unread{"LoadCase="},
-                                               Unread{"CoordSys="},    Unread{"MultiplierX="},
-                                               Unread{"MultiplierY="}, Unread{"MultiplierZ="}};
+inline constexpr RowKey<T_SLLG_D> kRowKeys<T_SLLG_D>[] = {
+    Unread{"Solid="},       Unread{"LoadCase="},    Unread{"CoordSys="},
+    Unread{"MultiplierX="}, Unread{"MultiplierY="}, Unread{"MultiplierZ="}};
 
 /// Mesh settings of solids. They have no place in the output.
 struct T_SLAM_D {
@@ -82,9 +82,9 @@ struct T_SLAM_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SLAM_D>{Unread{"Solid="}, Unread{"AutoMesh="},
-                                               Unread{"Number1="}, Unread{"Number2="},
-                                               Unread{"Number3="}};
+inline constexpr RowKey<T_SLAM_D> kRowKeys<T_SLAM_D>[] = {Unread{"Solid="}, Unread{"AutoMesh="},
+                                                          Unread{"Number1="}, Unread{"Number2="},
+                                                          Unread{"Number3="}};
 
 /// Material temperatures of solids. They have no place in the output.
 struct T_SLPT_D {
@@ -92,8 +92,8 @@ struct T_SLPT_D {
 };
 
 template <>
-inline constexpr std::tuple kRowKeys<T_SLPT_D>{Unread{"Solid="}, Unread{"Temp="},
-                                               Unread{"JtPattern="}};
+inline constexpr RowKey<T_SLPT_D> kRowKeys<T_SLPT_D>[] = {Unread{"Solid="}, Unread{"Temp="},
+                                                          Unread{"JtPattern="}};
 
 // ---- Target records ----
 

@@ -7,8 +7,9 @@
 namespace s2k2ngt {
 
 std::string EditorCommandLine(const std::string& path) {
-  const std::string noOptions;
-  return "\"" + std::string(kEditor) + "\" \"" + path + "\" " + noOptions;
+  std::string line = "\"";
+  line.append(kEditor).append("\" \"").append(path).append("\" ");
+  return line;  // with no options behind the path
 }
 
 int CConverter::LaunchEditor(const std::string& path) {

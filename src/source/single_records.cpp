@@ -16,13 +16,23 @@ RowScan FirstRow(TableRows rows) {
   return row;
 }
 
+/// A coordinate system. Where it lies plays no part: joints state their coordinates in the global
+/// system.
+struct CoordinateSystem {
+  Text Type = "Cartesian";
+};
+
 }  // namespace
 
 template <>
-inline constexpr std::tuple kRowKeys<ActiveDegreesOfFreedom>{
-    Key{"UX=", &ActiveDegreesOfFreedom::UX}, Key{"UY=", &ActiveDegreesOfFreedom::UY},
-    Key{"UZ=", &ActiveDegreesOfFreedom::UZ}, Key{"RX=", &ActiveDegreesOfFreedom::RX},
-    Key{"RY=", &ActiveDegreesOfFreedom::RY}, Key{"RZ=", &ActiveDegreesOfFreedom::RZ}};
+inline constexpr RowKey<ActiveDegreesOfFreedom> kRowKeys<ActiveDegreesOfFreedom>[] = {
+    {"UX=", &ActiveDegreesOfFreedom::UX}, {"UY=", &ActiveDegreesOfFreedom::UY},
+    {"UZ=", &ActiveDegreesOfFreedom::UZ}, {"RX=", &ActiveDegreesOfFreedom::RX},
+    {"RY=", &ActiveDegreesOfFreedom::RY}, {"RZ=", &ActiveDegreesOfFreedom::RZ}};
+
+template <>
+inline constexpr RowKey<CoordinateSystem> kRowKeys<CoordinateSystem>[] = {
+    {"Type=", &CoordinateSystem::Type}};
 
 std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model,
                                                    Messages& /*shown*/) {
@@ -32,13 +42,7 @@ std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model
 }
 
 std::optional<Refusal> StoreCoordinateSystem(TableRows rows, CModel& model, Messages& shown) {
-  // Where the system lies plays no part: joints state their coordinates in the global system.
-  struct CoordinateSystem {
-    Text Type = "Cartesian";
-  };
-  const RowScan row = FirstRow(rows);
-  CoordinateSystem system;
-  Key{"Type=", &CoordinateSystem::Type}.Read(row, model.Texts(), system);
+  const auto system = ParseRow<CoordinateSystem>(FirstRow(rows), model.Texts());
   if (system.Type != "Cartesian") {
     shown.Show("IDS_S2KV8_NODE_NOT_Cylindrical");
     return Refusal{rows.front().Line, "the first coordinate system has Type=" +

@@ -25,17 +25,18 @@ struct ColumnRow {
 }  // namespace
 
 template <>
-inline constexpr std::tuple kRowKeys<ColumnRow>{Key{"Column=", &ColumnRow::Label},
-                                                Key{"Shape=", &ColumnRow::Shape},
-                                                Key{"Depth=", &ColumnRow::Depth},
-                                                Key{"Factor=", &ColumnRow::Factor},
-                                                Key{"Bars=", &ColumnRow::Bars},
-                                                Key{"Ties=", &ColumnRow::Ties},
-                                                Key{"Sway=", &ColumnRow::IsSway},
-                                                Key{"Braced=", &ColumnRow::IsBraced},
-                                                States{"OffsetX=", &ColumnRow::StatesOffset},
-                                                States{"OffsetY=", &ColumnRow::StatesOffset},
-                                                Unread{"GUID="}};
+inline constexpr RowKey<ColumnRow> kRowKeys<ColumnRow>[] = {
+    {"Column=", &ColumnRow::Label},
+    {"Shape=", &ColumnRow::Shape},
+    {"Depth=", &ColumnRow::Depth},
+    {"Factor=", &ColumnRow::Factor},
+    {"Bars=", &ColumnRow::Bars},
+    {"Ties=", &ColumnRow::Ties},
+    {"Sway=", &ColumnRow::IsSway},
+    {"Braced=", &ColumnRow::IsBraced},
+    States{"OffsetX=", &ColumnRow::StatesOffset},
+    States{"OffsetY=", &ColumnRow::StatesOffset},
+    Unread{"GUID="}};
 
 namespace {
 
