@@ -50,7 +50,7 @@ class CKeyedTable {
     m_Records.push_back(std::move(record));
   }
 
-  /// Stores `record` under the key behind the count of records.
+  /// Stores `record` under the count of records plus 1, which is a new key while all keys came so.
   void Append(Record record) {
     Insert(static_cast<std::uint32_t>(m_Records.size()) + 1, std::move(record));
   }
@@ -231,7 +231,7 @@ class CKeyedTable {
         this->Groups[std::invoke(Field, table.m_Records[slot])].push_back(table.m_Keys.KeyOf(slot));
       }
       if (table.m_Keys.CameInOrder()) {
-        return;  // the keys came in order
+        return;
       }
       for (auto& [value, keys] : this->Groups) {
         std::ranges::sort(keys);

@@ -13,8 +13,7 @@ namespace s2k2ngt {
 /// unchanged; no character set is interpreted.
 using Text = std::string_view;
 
-/// A label, and what it is one of: an element's family, a nodal temperature's load case, the
-/// pattern of a joint's value.
+/// A label that is unique only together with what qualifies it, as an element's with its family.
 struct QualifiedLabel {
   Text Label;
   Text Qualifier;

@@ -97,23 +97,7 @@ class FramePropertyLookup {
 };
 
 double AngleOfFrame(CModel& model, Text frame) {
-  const auto typical = model.Rows<T_FRTP_D>().FirstWith<&T_FRTP_D::Frame>(frame);
-  if (!typical) {
-    return 0.0;
-  }
-  const double angle = typical->Value.Angle;
-  if (!typical->Value.AdvanceAxes) {
-    return angle;
-  }
-  const auto advanced = model.Rows<T_FRAV_D>().FirstWith<&T_FRAV_D::Frame>(frame);
-  if (!advanced) {
-    return angle;
-  }
-  const T_FRAV_D& axes = advanced->Value;
-  return AngleInPlane(model,
-                      {axes.LocalPlan, axes.PlOption1, axes.CoordDir1, axes.CoordDir2,
-                       axes.PlVecJt1, axes.PlVecJt2, axes.PlVecY, axes.PlVecZ},
-                      angle);
+  return AngleByAxes<T_FRTP_D, &T_FRTP_D::Frame, T_FRAV_D, &T_FRAV_D::Frame>(model, frame);
 }
 
 /// The angle turned so that the plane of the local axes holds a coordinate direction; a pair of

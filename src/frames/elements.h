@@ -66,8 +66,8 @@ inline constexpr RowKey<T_FRTP_D> kRowKeys<T_FRTP_D>[] = {{"Frame=", &T_FRTP_D::
 struct T_FRAV_D {
   static constexpr Text kTable = "T_FRAV_D";
   Text Frame;
-  Text LocalPlan;  // "12" or "13"
-  Text PlOption1;  // "Coord Dir", "Two Joints", or a vector
+  Text LocalPlane;  // "12" or "13"; its key is cut short, unlike that of links
+  Text PlOption1;   // "Coord Dir", "Two Joints", or a vector
   Text CoordDir1;
   Text CoordDir2;
   Text PlVecJt1;
@@ -78,7 +78,7 @@ struct T_FRAV_D {
 
 template <>
 inline constexpr RowKey<T_FRAV_D> kRowKeys<T_FRAV_D>[] = {{"Frame=", &T_FRAV_D::Frame},
-                                                          {"LocalPlan=", &T_FRAV_D::LocalPlan},
+                                                          {"LocalPlan=", &T_FRAV_D::LocalPlane},
                                                           {"PlOption1=", &T_FRAV_D::PlOption1},
                                                           Unread{"PlCoordSys="},
                                                           {"CoordDir1=", &T_FRAV_D::CoordDir1},
@@ -121,6 +121,26 @@ struct AdvancedPlane {
 
 /// The angle, in degrees, corrected for the plane that the advanced axes ask for.
 double AngleInPlane(CModel& model, const AdvancedPlane& plane, double angle);
+
+/// The angle of a frame or link by its rows of typical and of advanced axes, which name it in these
+/// fields; 0 without a typical row.
+template <class Typical, auto TypicalLabel, class Advanced, auto AdvancedLabel>
+double AngleByAxes(CModel& model, Text label) {
+  const auto typical = model.Rows<Typical>().template FirstWith<TypicalLabel>(label);
+  if (!typical) {
+    return 0.0;
+  }
+  const double angle = typical->Value.Angle;
+  const auto advanced = model.Rows<Advanced>().template FirstWith<AdvancedLabel>(label);
+  if (!typical->Value.AdvanceAxes || !advanced) {
+    return angle;
+  }
+  const Advanced& axes = advanced->Value;
+  return AngleInPlane(model,
+                      {axes.LocalPlane, axes.PlOption1, axes.CoordDir1, axes.CoordDir2,
+                       axes.PlVecJt1, axes.PlVecJt2, axes.PlVecY, axes.PlVecZ},
+                      angle);
+}
 
 // ---- Output ----
 

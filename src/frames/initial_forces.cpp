@@ -33,11 +33,11 @@ bool ConvertInitialForces(Conversion& run) {
 
 bool ConvertPrestress(Conversion& run) {
   const auto& multipliers = run.Source.Rows<T_FRLM_D>();
-  // Meant so: a tendon without a multiplier takes that of the tendon before it in the walk. It has
-  // no load case and prints nowhere.
+  // Meant so: a tendon without a multiplier takes that of the tendon before it in the walk. Its
+  // load case has no name.
   double multiplier = 1.0;
   for (const auto [key, tendon] : run.Source.Rows<T_FRPT_D>().Walk()) {
-    // Tendons and multipliers are paired by position: the two tables list the frames in one order.
+    // Meant so: a tendon has the multiplier of its own position, if that is of its frame.
     const T_FRLM_D* const paired = multipliers.Find(key);
     Text loadCase;
     if (paired != nullptr && paired->Frame == tendon.Frame) {

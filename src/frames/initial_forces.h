@@ -5,6 +5,8 @@
 #include "source/row_grammar.h"
 #include "target/conversion.h"
 
+#include <cstdint>
+
 namespace s2k2ngt {
 
 // ---- Source rows ----

@@ -140,10 +140,9 @@ constexpr std::array kKinds = std::to_array<Kind>({
 });
 
 /// How often the link of a Beam or Body constraint is made: the first and the second of a kind make
-/// one link each, the third two, the fourth three, and this is meant. Each constraint is held
-/// against those of its kind before it, as far as there are Body constraints of the same numbers,
-/// and makes a link for each that differs; a constraint without a name differs from none as the
-/// second of its kind, and in a model without Body constraints.
+/// one link each, the third two, the fourth three, and this is meant. A constraint without a name
+/// makes none as the second of its kind; nor does a Beam without a name that is not the first, in a
+/// model without Body constraints before it.
 class RepeatedLinks {
  public:
   std::size_t CountFor(Text type, Text constraint) {

@@ -1,11 +1,9 @@
 #include "loads/area_loads.h"
 
 #include "loads/joint_patterns.h"
+#include "loads/load_direction.h"
 #include "plates/areas.h"
 #include "target/load_frame.h"
-
-#include <array>
-#include <utility>
 
 namespace s2k2ngt {
 
@@ -13,31 +11,12 @@ namespace s2k2ngt {
 
 namespace {
 
-/// Where a load of a global direction goes.
-struct LoadDirection {
-  Text DIR;
-  Text bPROJ;
-  double Sign = 1.0;  // gravity, positive downwards in the source, is a load along -Z
-};
-
-/// A direction that is not listed is taken as Z.
+/// A global direction that the target does not have is taken as Z.
 LoadDirection DirectionOf(Text dir) {
-  constexpr std::array<std::pair<Text, LoadDirection>, 8> kDirections = {{
-      {"X", {"GX", "NO", 1.0}},
-      {"Y", {"GY", "NO", 1.0}},
-      {"Z", {"GZ", "NO", 1.0}},
-      {"X Proj", {"GX", "YES", 1.0}},
-      {"Y Proj", {"GY", "YES", 1.0}},
-      {"Z Proj", {"GZ", "YES", 1.0}},
-      {"Gravity", {"GZ", "NO", -1.0}},
-      {"Grav Proj", {"GZ", "YES", -1.0}},
-  }};
-  for (const auto& [name, direction] : kDirections) {
-    if (name == dir) {
-      return direction;
-    }
+  if (dir == "Grav Proj") {
+    return {"GZ", "YES", -1.0};
   }
-  return {"GZ", "NO", 1.0};
+  return GlobalDirection(dir).value_or(LoadDirection{"GZ", "NO", 1.0});
 }
 
 T_NGT_PRSL_D PlateFaceLoad(Text area, Text loadCase, Text direction, Text projected) {
@@ -53,7 +32,8 @@ T_NGT_PRSL_D PlateFaceLoad(Text area, Text loadCase, Text direction, Text projec
 
 bool ConvertUniformLoads(Conversion& run) {
   // Meant so: a load in a direction that the target does not have repeats the load before it on
-  // that load's area. The first in the walk has none before it, and no load case to be written in.
+  // that load's area. The first in the walk has none before it and repeats an empty one, whose load
+  // case has no name.
   T_NGT_PRSL_D load;
   for (const auto [key, row] : run.Source.Rows<T_ALUM_D>().Walk()) {
     if (row.CoordSys == "GLOBAL") {

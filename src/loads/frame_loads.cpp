@@ -3,6 +3,7 @@
 #include "frames/elements.h"
 #include "frames/materials.h"
 #include "frames/sections.h"
+#include "loads/load_direction.h"
 #include "target/load_frame.h"
 
 #include <array>
@@ -17,40 +18,26 @@ namespace s2k2ngt {
 
 namespace {
 
-/// Where a load on a frame goes.
-struct LoadDirection {
-  Text DIR;
-  Text bPROJ;
-  double Sign = 1.0;
-};
-
-/// The target's axes y and z are the source's axes 3 and 2, the former turned around; and gravity,
-/// positive downwards in the source, is a load along -Z. A direction that is not listed leaves DIR
-/// and bPROJ empty.
-LoadDirection DirectionOf(Text coordSys, Text dir) {
-  struct Entry {
-    Text CoordSys;
-    Text Dir;
-    LoadDirection Direction;
-  };
-  constexpr std::array<Entry, 10> kDirections = {{
-      {"GLOBAL", "X", {"GX", "NO", 1.0}},
-      {"GLOBAL", "Y", {"GY", "NO", 1.0}},
-      {"GLOBAL", "Z", {"GZ", "NO", 1.0}},
-      {"GLOBAL", "X Proj", {"GX", "YES", 1.0}},
-      {"GLOBAL", "Y Proj", {"GY", "YES", 1.0}},
-      {"GLOBAL", "Z Proj", {"GZ", "YES", 1.0}},
-      {"GLOBAL", "Gravity", {"GZ", "NO", -1.0}},
-      {"Local", "1", {"LX", "NO", 1.0}},
-      {"Local", "2", {"LZ", "NO", 1.0}},
-      {"Local", "3", {"LY", "NO", -1.0}},
-  }};
-  for (const Entry& entry : kDirections) {
-    if (entry.CoordSys == coordSys && entry.Dir == dir) {
-      return entry.Direction;
-    }
+/// The target's axes y and z are the source's axes 3 and 2, the former turned around.
+LoadDirection LocalDirection(Text dir) {
+  if (dir == "1") {
+    return {"LX", "NO", 1.0};
+  }
+  if (dir == "2") {
+    return {"LZ", "NO", 1.0};
+  }
+  if (dir == "3") {
+    return {"LY", "NO", -1.0};
   }
   return {};
+}
+
+/// A direction that the target does not have leaves DIR and bPROJ empty.
+LoadDirection DirectionOf(Text coordSys, Text dir) {
+  if (coordSys == "GLOBAL") {
+    return GlobalDirection(dir).value_or(LoadDirection{});
+  }
+  return coordSys == "Local" ? LocalDirection(dir) : LoadDirection{};
 }
 
 /// A point has no length to be projected: such directions have no like.

@@ -49,7 +49,7 @@ inline constexpr Text kSeismicType = "E";  ///< of a load case that may have *SE
 struct T_NGT_STLC_D {
   Text LCNAME;
   Text LCTYPE;         // "D", "L", "W", "S", "E" or "USER"; empty for a load that is not there
-  bool bAuto = false;  // the load has wind or earthquake parameters to write
+  bool bAuto = false;  // of wind or earthquake by a code, whether or not it has parameters
 };
 
 /// The self weight of a load: factors of gravity along the global axes.

@@ -5,6 +5,8 @@
 #include "source/row_grammar.h"
 #include "target/conversion.h"
 
+#include <cstdint>
+
 namespace s2k2ngt {
 
 // ---- Source rows ----
@@ -116,7 +118,7 @@ struct T_NGT_NDTM_D {
 };
 
 /// Temperature gradient of an element, keyed by a running number: the difference over its whole
-/// depth, so that the target needs no depths of its own.
+/// depth.
 struct T_NGT_TMPG_D {
   Text Element;
   Text LoadCase;

@@ -117,8 +117,8 @@ bool ConvertLoad(Conversion& run, Text load) {
   const auto target = Convert(row->Value, run.Target.Texts());
   using Target = std::remove_cv_t<decltype(target)>;
   auto& table = run.Target.Table<Target>();
-  static const std::uint32_t settled = FirstKeyOfLastBucket(Target::kBuckets);
-  if (table.Count() >= settled && table.template FirstWith<&Target::LoadCase>(load)) {
+  static const std::uint32_t countWhenSettled = FirstKeyOfLastBucket(Target::kBuckets);
+  if (table.Count() >= countWhenSettled && table.template FirstWith<&Target::LoadCase>(load)) {
     return false;
   }
   table.Append(target);
@@ -174,7 +174,7 @@ void WriteCode(Conversion& run, Text loadCase, LineWriter& out, Text head,
     out.WriteLine("%s", head);
     writeParameters(parameters);
   }
-  out.WriteLine(";End of data for load case [%s]\n\n", parameters.LoadCase);
+  WriteEndOf(out, parameters.LoadCase);
 }
 
 }  // namespace

@@ -13,23 +13,7 @@ namespace s2k2ngt {
 namespace {
 
 double AngleOfLink(CModel& model, Text link) {
-  const auto typical = model.Rows<T_LLCT_D>().FirstWith<&T_LLCT_D::Link>(link);
-  if (!typical) {
-    return 0.0;
-  }
-  const double angle = typical->Value.Angle;
-  if (!typical->Value.AdvanceAxes) {
-    return angle;
-  }
-  const auto advanced = model.Rows<T_LLCA_D>().FirstWith<&T_LLCA_D::Link>(link);
-  if (!advanced) {
-    return angle;
-  }
-  const T_LLCA_D& axes = advanced->Value;
-  return AngleInPlane(model,
-                      {axes.LocalPlane, axes.PlOption1, axes.CoordDir1, axes.CoordDir2,
-                       axes.PlVecJt1, axes.PlVecJt2, axes.PlVecY, axes.PlVecZ},
-                      angle);
+  return AngleByAxes<T_LLCT_D, &T_LLCT_D::Link, T_LLCA_D, &T_LLCA_D::Link>(model, link);
 }
 
 /// Takes a direction of a linear property into the link. The target's axes y and z are the source's

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <concepts>
+#include <cstdint>
 
 namespace s2k2ngt {
 
@@ -65,7 +66,7 @@ inline constexpr RowKey<T_LLCT_D> kRowKeys<T_LLCT_D>[] = {{"Link=", &T_LLCT_D::L
 struct T_LLCA_D {
   static constexpr Text kTable = "T_LLCA_D";
   Text Link;
-  Text LocalPlane;  // spelt out, unlike that of frames
+  Text LocalPlane;
   Text PlOption1;
   Text CoordDir1;
   Text CoordDir2;

@@ -5,6 +5,7 @@
 #include "source/str_parser.h"
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -67,6 +68,7 @@ class RowKey {
 
   /// A key of the part that the record has in common with others.
   template <class Common>
+  requires std::derived_from<Record, Common>
   constexpr RowKey(const RowKey<Common>& key)
       : m_Name(key.m_Name),
         m_Text(key.m_Text),
@@ -102,7 +104,7 @@ class RowKey {
 
   template <class Field>
   static void Store(Record& record, Field Record::*target, Field value) {
-    // Compilers warn of fields that a small record cannot have.
+    // A record that is smaller than a field has none of its kind, and compilers warn of the store.
     if constexpr (sizeof(Field) <= sizeof(Record)) {
       record.*target = value;
     }

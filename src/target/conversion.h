@@ -23,8 +23,8 @@ struct DeferredWarnings {
   bool bSectionNotTranslated = false;
   bool bAreaModifiersLost = false;
   bool bSolidLocalAxesLost = false;
-  bool bSolidGravityLost =
-      false;  ///< no writer shows it: gravity loads of solids vanish in silence
+  /// No writer shows it: gravity loads of solids vanish in silence.
+  bool bSolidGravityLost = false;
   bool bCoupledSpringLost = false;
   bool bFrameSpringToNodes = false;
   bool bAreaSpringToNodes = false;

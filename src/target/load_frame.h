@@ -26,6 +26,11 @@ inline void WriteUseOf(LineWriter& out, Text loadCase) {
   out.WriteLine("%s, %10s\n\n", "*USE-STLD", loadCase);
 }
 
+/// Closes it.
+inline void WriteEndOf(LineWriter& out, Text loadCase) {
+  out.WriteLine(";End of data for load case [%s]\n\n", loadCase);
+}
+
 /// Writes what `write` gives for each of the places, in the frame of a load case; nothing at all
 /// when there are none. `head` is the command line and the comments behind it.
 template <class Write>
@@ -39,8 +44,7 @@ void WriteInFrame(LineWriter& out, Text loadCase, Text head, std::span<const std
   for (const std::uint32_t place : places) {
     write(place);
   }
-  out.WriteLine(";End of data for load case [%s]\n", loadCase);
-  out.WriteLine("\n");
+  WriteEndOf(out, loadCase);
 }
 
 /// Writes the loads of a case, by their field `LoadCase`, in walk order.

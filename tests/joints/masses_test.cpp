@@ -1,3 +1,4 @@
+#include "support/axes_tables.h"
 #include "support/conversion_run.h"
 
 #include <string>
@@ -9,17 +10,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// Joint 1 has axis 1 along Z, axis 2 along X and axis 3 along Y.
-constexpr const char* kAxesOfJoint1 = R"(
-TABLE:  "JOINT LOCAL AXES ASSIGNMENTS 1 - TYPICAL"
-   Joint=1   AngleA=0   AngleB=0   AngleC=0   AdvanceAxes=Yes
-
-TABLE:  "JOINT LOCAL AXES ASSIGNMENTS 2 - ADVANCED"
-   Joint=1   LocalPlane=12   AxOption1="Coord Dir"   AxCoordSys=GLOBAL   AxCoordDir=Z   PlOption1="Coord Dir"   PlCoordSys=GLOBAL   CoordDir1=X   CoordDir2=Y
-)";
-
-ConversionRun ConvertWithAxes(const std::string& tables) { return Convert(kAxesOfJoint1 + tables); }
 
 TEST(NodalMasses, MassOfAJointGivesTheWholeSection) {
   const ConversionRun run = Convert(R"(

@@ -220,4 +220,25 @@ TABLE:  "CONSTRAINT DEFINITIONS - BODY"
                           "\t1, 100000,     2,      ", "\t5,      ,     6,      "));
 }
 
+TEST(RepeatedLinks, SecondBeamOfEmptyNameIsNotLinkedInAModelWithBodiesEither) {
+  // Handled are the Beam A, the Body C and the Beam of empty name; links 1 and 2 are written 2, 1.
+  const ConversionRun run = Convert(R"(
+TABLE:  "JOINT CONSTRAINT ASSIGNMENTS"
+   Joint=5   Type=Beam
+   Joint=6   Type=Beam
+   Joint=1   Constraint=A   Type=Beam
+   Joint=2   Constraint=A   Type=Beam
+   Joint=3   Constraint=C   Type=Body
+   Joint=4   Constraint=C   Type=Body
+
+TABLE:  "CONSTRAINT DEFINITIONS - BEAM"
+   Name=A   Axis=X
+
+TABLE:  "CONSTRAINT DEFINITIONS - BODY"
+   Name=C   UX=Yes
+)");
+  EXPECT_THAT(run.Lines("*RIGIDLINK"),
+              ElementsAre("\t3, 100000,     4,      ", "\t1, 011100,     2,      "));
+}
+
 }  // namespace

@@ -1,4 +1,5 @@
 #include "support/conversion_run.h"
+#include "support/load_tables.h"
 
 #include <initializer_list>
 #include <string>
@@ -13,39 +14,15 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
 
-/// The tables of earthquake loads, each of a name and a code (AutoLoad=), and a static case for
-/// each. Loads 1 to 4 are converted in the order 2, 4, 1, 3 and written in the order 3, 2, 1, 4.
-std::string QuakeLoads(std::initializer_list<std::pair<std::string, std::string>> namesAndCodes,
-                       const std::string& designType = "QUAKE") {
-  std::string loads = "TABLE:  \"LOAD CASE DEFINITIONS\"\n";
-  std::string analyses = "TABLE:  \"ANALYSIS CASE DEFINITIONS\"\n";
-  std::string assignments = "TABLE:  \"CASE - STATIC 1 - LOAD ASSIGNMENTS\"\n";
-  for (const auto& [name, code] : namesAndCodes) {
-    loads += "   LoadCase=" + name + "   DesignType=" + designType +
-             "   SelfWtMult=0   AutoLoad=" + code + "\n";
-    analyses += "   Case=" + name + "   Type=LinStatic\n";
-    assignments += "   Case=" + name + "   LoadType=\"Load case\"   LoadName=" + name + "\n";
-  }
-  return loads + "\n" + analyses + "\n" + assignments + "\n";
-}
-
-/// What stands behind *STLDCASE, in a model without anything but loads.
-std::string Loads(const ConversionRun& run) {
-  EXPECT_EQ(run.Result, 0);
-  const std::size_t begin = run.Output.find("\n\n", run.Output.find("*STLDCASE")) + 2;
-  const std::size_t end = run.Output.rfind("\n\n*ENDDATA");
-  return run.Output.substr(begin, end - begin);
-}
-
 // ---- UBC 97 ----
 
 TEST(SeismicUbc97, WholeCommandOfALoadCase) {
-  const ConversionRun run = Convert(QuakeLoads({{"EQX", "UBC97"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQX", "UBC97"}}) + R"(
 TABLE:  "AUTO SEISMIC - UBC97"
    LoadCase=EQX   Dir=X   PercentEcc=0.05   EccOverride=Yes   PeriodCalc="Prog Calc"   Ct=0.03   _
       R=8.5   SoilType=SC   Z=0.4   MaxZ=40   MinZ=0   SourceType=B   SourceDist=5   I=1.25
 )");
-  EXPECT_EQ(Loads(run),
+  EXPECT_EQ(TextOfLoads(run),
             "*USE-STLD,        EQX\n"
             "\n"
             "*SEIS    ; Static Seismic Loads\n"
@@ -63,7 +40,7 @@ TEST(SeismicUbc97, DirectionsButXAreY) {
   for (const char* dir : {"Dir=Y", "Dir=Z", "Dir=x", "Dir=", ""}) {
     SCOPED_TRACE(dir);
     const ConversionRun run =
-        Convert(QuakeLoads({{"EQ", "UBC97"}}) +
+        Convert(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) +
                 "TABLE:  \"AUTO SEISMIC - UBC97\"\n"
                 "   LoadCase=EQ   PeriodCalc=Program   Ct=0.03   R=8.5   SoilType=SC   "
                 "Z=0.4   SourceType=B   SourceDist=5   I=1   " +
@@ -94,7 +71,7 @@ TEST(SeismicUbc97, PeriodIsCtWhateverTheHeightUnlessItIsTheUsers) {
                "\t\tSa,   0.4,      ,     0,     0,   1.2,     0,     0,     0"},
        }) {
     SCOPED_TRACE(row.Period);
-    const ConversionRun run = Convert(QuakeLoads({{"EQ", "UBC97"}}) +
+    const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) +
                                       "TABLE:  \"AUTO SEISMIC - UBC97\"\n"
                                       "   LoadCase=EQ   Dir=X   " +
                                       row.Period + "\n");
@@ -119,7 +96,7 @@ TEST(SeismicUbc97, SoilProfileIsTwoLettersOfWhichTheSecondIsSmall) {
            Row{"", "\t\tSa,     0,      ,     0,     0,     0,     0,     0,     0"},
        }) {
     SCOPED_TRACE(row.SoilType);
-    const ConversionRun run = Convert(QuakeLoads({{"EQ", "UBC97"}}) +
+    const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) +
                                       "TABLE:  \"AUTO SEISMIC - UBC97\"\n"
                                       "   LoadCase=EQ   Dir=X   " +
                                       row.SoilType + "\n");
@@ -143,7 +120,7 @@ TEST(SeismicUbc97, ZoneFactorIsTheNumberThatTheTextBeginsWith) {
            Row{"MaxZ=40   Z=0.4", "\t\tSa,    40,      ,     0,     0,     0,     0,     0,     0"},
        }) {
     SCOPED_TRACE(row.Zone);
-    const ConversionRun run = Convert(QuakeLoads({{"EQ", "UBC97"}}) +
+    const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) +
                                       "TABLE:  \"AUTO SEISMIC - UBC97\"\n"
                                       "   LoadCase=EQ   Dir=X   " +
                                       row.Zone + "\n");
@@ -154,7 +131,7 @@ TEST(SeismicUbc97, ZoneFactorIsTheNumberThatTheTextBeginsWith) {
 
 TEST(SeismicUbc97, FirstRowOfTheLoadInTheWalkIsTheOnlyOne) {
   // Row 2 comes before row 1.
-  const ConversionRun run = Convert(QuakeLoads({{"EQ", "UBC97"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) + R"(
 TABLE:  "AUTO SEISMIC - UBC97"
    LoadCase=EQ   Dir=X   Ct=0.03   R=8.5   SoilType=SC   Z=0.4   SourceType=B   SourceDist=5   I=1
    LoadCase=EQ   Dir=Y   Ct=0.02   R=4.5   SoilType=SC   Z=0.4   SourceType=B   SourceDist=5   I=1
@@ -165,7 +142,8 @@ TABLE:  "AUTO SEISMIC - UBC97"
 }
 
 TEST(SeismicUbc97, EachLoadFindsItsOwnRow) {
-  const ConversionRun run = Convert(QuakeLoads({{"EQX", "UBC97"}, {"EQY", "UBC97"}}) + R"(
+  const ConversionRun run =
+      Convert(AutomaticCases("QUAKE", {{"EQX", "UBC97"}, {"EQY", "UBC97"}}) + R"(
 TABLE:  "AUTO SEISMIC - UBC97"
    LoadCase=EQX   Dir=X   Ct=0.03   R=8.5   SoilType=SC   Z=0.4   SourceType=B   SourceDist=5   I=1
    LoadCase=EQY   Dir=Y   Ct=0.03   R=4.5   SoilType=SD   Z=0.3   SourceType=A   SourceDist=2   I=1
@@ -179,7 +157,7 @@ TABLE:  "AUTO SEISMIC - UBC97"
 }
 
 TEST(SeismicUbc97, TableOfIsolatedStructuresIsReadAsTheOther) {
-  const ConversionRun run = Convert(QuakeLoads({{"EQ", "UBC97"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) + R"(
 TABLE:  "AUTO SEISMIC - UBC97 ISOLATED"
    LoadCase=EQ   Dir=X   Ct=0.03   R=2   SoilType=SC   Z=0.4   SourceType=B   SourceDist=5   I=1
 )");
@@ -192,13 +170,13 @@ TABLE:  "AUTO SEISMIC - UBC97 ISOLATED"
 // ---- NBCC 95 ----
 
 TEST(SeismicNbcc95, WholeCommandOfALoadCase) {
-  const ConversionRun run = Convert(QuakeLoads({{"EQX", "NBCC95"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQX", "NBCC95"}}) + R"(
 TABLE:  "AUTO SEISMIC - NBCC95"
    LoadCase=EQX   Dir=X   PercentEcc=0.1   EccOverride=Yes   StructType=Other   PeriodCalc=User   _
       Ds=12   UserT=0.9   MaxZ=40   MinZ=0   R=3.5   Za=4   Zv=5   VType="From Zv"   V=0.3   _
       I=1.3   F=1.5
 )");
-  EXPECT_EQ(Loads(run),
+  EXPECT_EQ(TextOfLoads(run),
             "*USE-STLD,        EQX\n"
             "\n"
             "*SEIS    ; Static Seismic Loads\n"
@@ -216,7 +194,7 @@ TEST(SeismicNbcc95, DirectionsButXAreYAndTheUsersPeriodIsTakenHoweverItIsCalcula
   for (const char* dir :
        {"Dir=Y   PeriodCalc=\"Code\"", "Dir=Z   PeriodCalc=Program", "Dir=x", "PeriodCalc=User"}) {
     SCOPED_TRACE(dir);
-    const ConversionRun run = Convert(QuakeLoads({{"EQ", "NBCC95"}}) +
+    const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "NBCC95"}}) +
                                       "TABLE:  \"AUTO SEISMIC - NBCC95\"\n"
                                       "   LoadCase=EQ   Ds=12   UserT=0.9   R=3.5   Za=4   Zv=5   "
                                       "V=0.3   I=1.3   F=1.5   " +
@@ -230,7 +208,7 @@ TEST(SeismicNbcc95, DirectionsButXAreYAndTheUsersPeriodIsTakenHoweverItIsCalcula
 }
 
 TEST(SeismicNbcc95, WhatTheRowDoesNotStateIsZeroAndZonesAreIntegers) {
-  const ConversionRun run = Convert(QuakeLoads({{"EQ", "NBCC95"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQ", "NBCC95"}}) + R"(
 TABLE:  "AUTO SEISMIC - NBCC95"
    LoadCase=EQ   Dir=X   Za=4.9   Zv=Zone5
 )");
@@ -261,18 +239,19 @@ const std::string kBlockOfEqx =
 
 TEST(SeismicClosingLine, LoadWithoutARowClosesThatOfAnother) {
   // EQY is written first.
-  const ConversionRun run = Convert(QuakeLoads({{"EQX", "UBC97"}, {"EQY", "UBC97"}}) + kRowOfEqx);
-  EXPECT_EQ(Loads(run), ";End of data for load case [EQX]\n\n" + kBlockOfEqx);
+  const ConversionRun run =
+      Convert(AutomaticCases("QUAKE", {{"EQX", "UBC97"}, {"EQY", "UBC97"}}) + kRowOfEqx);
+  EXPECT_EQ(TextOfLoads(run), ";End of data for load case [EQX]\n\n" + kBlockOfEqx);
 }
 
 TEST(SeismicClosingLine, EachCodeClosesAfterItsOwnBlockAlsoForTheLoadsOfTheOther) {
   // EQY is written first: the block of UBC 97 closes EQX, that of NBCC 95 is its own.
   const ConversionRun run =
-      Convert(QuakeLoads({{"EQX", "UBC97"}, {"EQY", "NBCC95"}}) + kRowOfEqx + R"(
+      Convert(AutomaticCases("QUAKE", {{"EQX", "UBC97"}, {"EQY", "NBCC95"}}) + kRowOfEqx + R"(
 TABLE:  "AUTO SEISMIC - NBCC95"
    LoadCase=EQY   Dir=Y   UserT=0.9   R=3.5   Za=4   Zv=5   V=0.3   I=1.3   F=1.5
 )");
-  EXPECT_EQ(Loads(run),
+  EXPECT_EQ(TextOfLoads(run),
             ";End of data for load case [EQX]\n"
             "\n"
             "*USE-STLD,        EQY\n"
@@ -294,28 +273,30 @@ TEST(SeismicClosingLine, CodesThatAreNotConvertedAreAutomaticAllTheSame) {
   for (const char* code : {"BOCA96", "IBC2000", "\"USER COEFF\"", "\"UBC 97\"", "ubc97", "none",
                            "\"ASCE 7-98\"", ""}) {
     SCOPED_TRACE(code);
-    const ConversionRun run = Convert(QuakeLoads({{"EQX", "UBC97"}, {"EQY", code}}) + kRowOfEqx);
-    EXPECT_EQ(Loads(run), ";End of data for load case [EQX]\n\n" + kBlockOfEqx);
+    const ConversionRun run =
+        Convert(AutomaticCases("QUAKE", {{"EQX", "UBC97"}, {"EQY", code}}) + kRowOfEqx);
+    EXPECT_EQ(TextOfLoads(run), ";End of data for load case [EQX]\n\n" + kBlockOfEqx);
     EXPECT_THAT(run.Messages, IsEmpty());
   }
 }
 
 TEST(SeismicClosingLine, LoadThatIsNotAutomaticHasNone) {
-  const ConversionRun run = Convert(QuakeLoads({{"EQX", "UBC97"}, {"EQY", "None"}}) + kRowOfEqx);
-  EXPECT_EQ(Loads(run), kBlockOfEqx);
+  const ConversionRun run =
+      Convert(AutomaticCases("QUAKE", {{"EQX", "UBC97"}, {"EQY", "None"}}) + kRowOfEqx);
+  EXPECT_EQ(TextOfLoads(run), kBlockOfEqx);
 }
 
 TEST(SeismicClosingLine, TableWithoutRecordsHasNone) {
   // The only load names a code that is not converted, or has no row.
   for (const char* code : {"BOCA96", "UBC97", "NBCC95"}) {
     SCOPED_TRACE(code);
-    const ConversionRun run = Convert(QuakeLoads({{"EQY", code}}) + kRowOfEqx);
+    const ConversionRun run = Convert(AutomaticCases("QUAKE", {{"EQY", code}}) + kRowOfEqx);
     EXPECT_EQ(run.Section("*STLDCASE"),
               "*STLDCASE    ; Static Load Cases\n"
               "; LCNAME, LCTYPE, DESC\n"
               "\tEQY,     E, \n"
               "\n");
-    EXPECT_EQ(Loads(run), "");
+    EXPECT_EQ(TextOfLoads(run), "");
   }
 }
 
@@ -329,20 +310,21 @@ TEST(SeismicClosingLine, NamesTheLastRecordOfTheWalk) {
   for (const Row& row : {Row{"UBC97", "EQ3"}, Row{"NBCC95", "EQ2"}}) {
     SCOPED_TRACE(row.Code);
     const ConversionRun run = Convert(
-        QuakeLoads({{"EQ1", row.Code}, {"EQ2", row.Code}, {"EQ3", row.Code}, {"EQ4", row.Code}}) +
+        AutomaticCases(
+            "QUAKE", {{"EQ1", row.Code}, {"EQ2", row.Code}, {"EQ3", row.Code}, {"EQ4", row.Code}}) +
         "TABLE:  \"AUTO SEISMIC - " + row.Code +
         "\"\n   LoadCase=EQ1   Dir=X\n   LoadCase=EQ2   Dir=X\n   LoadCase=EQ3   Dir=X\n");
-    EXPECT_THAT(Loads(run), EndsWith("\n\n;End of data for load case [EQ1]\n\n"
-                                     ";End of data for load case [" +
-                                     std::string(row.Last) + "]\n\n"));
+    EXPECT_THAT(TextOfLoads(run), EndsWith("\n\n;End of data for load case [EQ1]\n\n"
+                                           ";End of data for load case [" +
+                                           std::string(row.Last) + "]\n\n"));
   }
 }
 
 TEST(SeismicLoads, OtherDesignTypesHaveNoSeismicLoad) {
   for (const char* type : {"DEAD", "LIVE", "SNOW", "WIND", "OTHER", "Quake"}) {
     SCOPED_TRACE(type);
-    const ConversionRun run = Convert(QuakeLoads({{"EQX", "UBC97"}}, type) + kRowOfEqx);
-    EXPECT_EQ(Loads(run), "");
+    const ConversionRun run = Convert(AutomaticCases(type, {{"EQX", "UBC97"}}) + kRowOfEqx);
+    EXPECT_EQ(TextOfLoads(run), "");
   }
 }
 
@@ -359,7 +341,7 @@ TABLE:  "ANALYSIS CASE DEFINITIONS"
 TABLE:  "CASE - STATIC 1 - LOAD ASSIGNMENTS"
    Case=EQY   LoadType="Load case"   LoadName=EQY
 )" + kRowOfEqx);
-  EXPECT_EQ(Loads(run), "");
+  EXPECT_EQ(TextOfLoads(run), "");
 }
 
 }  // namespace

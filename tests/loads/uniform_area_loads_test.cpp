@@ -189,6 +189,22 @@ TABLE:  "AREA LOADS - UNIFORM"
                           "     0,     0,     0,     0,"));
 }
 
+TEST(UniformAreaLoads, UnknownDirectionAtTheHeadOfTheWalkIsEmptyInTheCaseWithoutAName) {
+  const ConversionRun run = Convert(R"(
+TABLE:  "ANALYSIS CASE DEFINITIONS"
+   Case=STATIC   Type=LinStatic
+
+TABLE:  "CASE - STATIC 1 - LOAD ASSIGNMENTS"
+   Case=STATIC   LoadType="Load case"
+
+TABLE:  "AREA LOADS - UNIFORM"
+   Area=1   LoadCase=LIVE   CoordSys=Local   Dir=1   UnifLoad=3
+)");
+  EXPECT_THAT(run.LoadLines("", "*PRESSURE"),
+              ElementsAre("\t0, PRES,      ,      ,      ,     0,     0,     0,      ,     0,"
+                          "     0,     0,     0,     0,"));
+}
+
 TEST(UniformAreaLoads, OnlyUnknownDirectionsWriteNothing) {
   const ConversionRun run = Convert(StaticCases({"LIVE"}) + R"(
 TABLE:  "AREA LOADS - UNIFORM"

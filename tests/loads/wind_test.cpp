@@ -1,4 +1,5 @@
 #include "support/conversion_run.h"
+#include "support/load_tables.h"
 
 #include <initializer_list>
 #include <string>
@@ -12,30 +13,6 @@ namespace {
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
-
-/// The tables of wind loads, each of a name and a code (AutoLoad=), and a static case for each.
-/// Loads 1 to 4 are converted in the order 2, 4, 1, 3 and written in the order 3, 2, 1, 4.
-std::string WindLoads(std::initializer_list<std::pair<std::string, std::string>> namesAndCodes,
-                      const std::string& designType = "WIND") {
-  std::string loads = "TABLE:  \"LOAD CASE DEFINITIONS\"\n";
-  std::string analyses = "TABLE:  \"ANALYSIS CASE DEFINITIONS\"\n";
-  std::string assignments = "TABLE:  \"CASE - STATIC 1 - LOAD ASSIGNMENTS\"\n";
-  for (const auto& [name, code] : namesAndCodes) {
-    loads += "   LoadCase=" + name + "   DesignType=" + designType +
-             "   SelfWtMult=0   AutoLoad=\"" + code + "\"\n";
-    analyses += "   Case=" + name + "   Type=LinStatic\n";
-    assignments += "   Case=" + name + "   LoadType=\"Load case\"   LoadName=" + name + "\n";
-  }
-  return loads + "\n" + analyses + "\n" + assignments + "\n";
-}
-
-/// What stands behind *STLDCASE, in a model without anything but loads.
-std::string Loads(const ConversionRun& run) {
-  EXPECT_EQ(run.Result, 0);
-  const std::size_t begin = run.Output.find("\n\n", run.Output.find("*STLDCASE")) + 2;
-  const std::size_t end = run.Output.rfind("\n\n*ENDDATA");
-  return run.Output.substr(begin, end - begin);
-}
 
 const std::string kUbcRowOfW1 = R"(
 TABLE:  "AUTO WIND - UBC97"
@@ -93,13 +70,13 @@ const std::string kNbcBlockOfW3 =
     "\n";
 
 TEST(WindUbc97, WholeCommandOfALoadCase) {
-  const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}}) + kUbcRowOfW1);
-  EXPECT_EQ(Loads(run), kUbcBlockOfW1);
+  const ConversionRun run = Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}}) + kUbcRowOfW1);
+  EXPECT_EQ(TextOfLoads(run), kUbcBlockOfW1);
   EXPECT_THAT(run.Messages, IsEmpty());
 }
 
 TEST(WindUbc97, WhatTheRowDoesNotStateIsEmptyOrZero) {
-  const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}}) + R"(
 TABLE:  "AUTO WIND - UBC97"
    LoadCase=W1
 )");
@@ -109,13 +86,13 @@ TABLE:  "AUTO WIND - UBC97"
 }
 
 TEST(WindAsce98, GoesOverToTheIbc2000OfTheTarget) {
-  const ConversionRun run = Convert(WindLoads({{"W2", "ASCE 7-98"}}) + kAsceRowOfW2);
-  EXPECT_EQ(Loads(run), kIbcBlockOfW2);
+  const ConversionRun run = Convert(AutomaticCases("WIND", {{"W2", "ASCE 7-98"}}) + kAsceRowOfW2);
+  EXPECT_EQ(TextOfLoads(run), kIbcBlockOfW2);
   EXPECT_THAT(run.Messages, IsEmpty());
 }
 
 TEST(WindAsce98, WhatTheRowDoesNotStateIsEmptyOrZero) {
-  const ConversionRun run = Convert(WindLoads({{"W2", "ASCE 7-98"}}) + R"(
+  const ConversionRun run = Convert(AutomaticCases("WIND", {{"W2", "ASCE 7-98"}}) + R"(
 TABLE:  "AUTO WIND - ASCE7-98"
    LoadCase=W2
 )");
@@ -126,8 +103,8 @@ TABLE:  "AUTO WIND - ASCE7-98"
 }
 
 TEST(WindNbcc95, SpeedIsDerivedFromThePressure) {
-  const ConversionRun run = Convert(WindLoads({{"W3", "NBCC 95"}}) + kNbccRowOfW3);
-  EXPECT_EQ(Loads(run), kNbcBlockOfW3);
+  const ConversionRun run = Convert(AutomaticCases("WIND", {{"W3", "NBCC 95"}}) + kNbccRowOfW3);
+  EXPECT_EQ(TextOfLoads(run), kNbcBlockOfW3);
   EXPECT_THAT(run.Messages, IsEmpty());
 }
 
@@ -142,7 +119,7 @@ TEST(WindNbcc95, PressuresOfZeroAndLess) {
            Row{"-1", "\t\t1,   nan,     2, , , 0,      , NO, , , , , , NO, 1"},
        }) {
     SCOPED_TRACE(row.VelPressure);
-    const ConversionRun run = Convert(WindLoads({{"W3", "NBCC 95"}}) +
+    const ConversionRun run = Convert(AutomaticCases("WIND", {{"W3", "NBCC 95"}}) +
                                       "TABLE:  \"AUTO WIND - NBCC95\"\n"
                                       "   LoadCase=W3   Cg=2   VelPressure=" +
                                       row.VelPressure + "\n");
@@ -153,8 +130,8 @@ TEST(WindNbcc95, PressuresOfZeroAndLess) {
 
 TEST(WindLoads, FirstRowOfTheLoadInTheWalkIsTheOnlyOne) {
   // Row 2 comes before row 1 in the tables of all three codes.
-  const ConversionRun run =
-      Convert(WindLoads({{"W1", "UBC 97"}, {"W2", "ASCE 7-98"}, {"W3", "NBCC 95"}}) + R"(
+  const ConversionRun run = Convert(
+      AutomaticCases("WIND", {{"W1", "UBC 97"}, {"W2", "ASCE 7-98"}, {"W3", "NBCC 95"}}) + R"(
 TABLE:  "AUTO WIND - UBC97"
    LoadCase=W1   Exposure=C   MaxZ=12   WindSpeed=80   I=1
    LoadCase=W1   Exposure=D   MaxZ=24   WindSpeed=90   I=1
@@ -177,7 +154,8 @@ TABLE:  "AUTO WIND - NBCC95"
 }
 
 TEST(WindLoads, EachLoadFindsItsOwnRow) {
-  const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}, {"W2", "UBC 97"}}) + R"(
+  const ConversionRun run =
+      Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}, {"W2", "UBC 97"}}) + R"(
 TABLE:  "AUTO WIND - UBC97"
    LoadCase=W1   Exposure=C   MaxZ=12   WindSpeed=80   I=1
    LoadCase=W2   Exposure=D   MaxZ=24   WindSpeed=90   I=1.15
@@ -195,9 +173,9 @@ TABLE:  "AUTO WIND - UBC97"
 TEST(WindClosingLine, EachCodeClosesInItsOrderAlsoForTheLoadsOfTheOthers) {
   // The load cases are written in the order W3, W2, W1, the codes always UBC, IBC, NBC.
   const ConversionRun run =
-      Convert(WindLoads({{"W1", "UBC 97"}, {"W2", "ASCE 7-98"}, {"W3", "NBCC 95"}}) + kUbcRowOfW1 +
-              kAsceRowOfW2 + kNbccRowOfW3);
-  EXPECT_EQ(Loads(run),
+      Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}, {"W2", "ASCE 7-98"}, {"W3", "NBCC 95"}}) +
+              kUbcRowOfW1 + kAsceRowOfW2 + kNbccRowOfW3);
+  EXPECT_EQ(TextOfLoads(run),
             // W3
             ";End of data for load case [W1]\n\n"
             ";End of data for load case [W2]\n\n" +
@@ -212,36 +190,39 @@ TEST(WindClosingLine, EachCodeClosesInItsOrderAlsoForTheLoadsOfTheOthers) {
 }
 
 TEST(WindClosingLine, LoadWithoutARowClosesThatOfAnother) {
-  const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}, {"W4", "UBC 97"}}) + kUbcRowOfW1);
-  EXPECT_EQ(Loads(run), ";End of data for load case [W1]\n\n" + kUbcBlockOfW1);
+  const ConversionRun run =
+      Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}, {"W4", "UBC 97"}}) + kUbcRowOfW1);
+  EXPECT_EQ(TextOfLoads(run), ";End of data for load case [W1]\n\n" + kUbcBlockOfW1);
 }
 
 TEST(WindClosingLine, CodesThatAreNotConvertedAreAutomaticAllTheSame) {
   for (const char* code :
        {"BOCA96", "UBC97", "ASCE7-98", "ASCE 7-95", "NBCC95", "USER", "ubc 97", "none", ""}) {
     SCOPED_TRACE(code);
-    const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}, {"W4", code}}) + kUbcRowOfW1);
-    EXPECT_EQ(Loads(run), ";End of data for load case [W1]\n\n" + kUbcBlockOfW1);
+    const ConversionRun run =
+        Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}, {"W4", code}}) + kUbcRowOfW1);
+    EXPECT_EQ(TextOfLoads(run), ";End of data for load case [W1]\n\n" + kUbcBlockOfW1);
     EXPECT_THAT(run.Messages, IsEmpty());
   }
 }
 
 TEST(WindClosingLine, LoadThatIsNotAutomaticHasNone) {
-  const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}, {"W4", "None"}}) + kUbcRowOfW1);
-  EXPECT_EQ(Loads(run), kUbcBlockOfW1);
+  const ConversionRun run =
+      Convert(AutomaticCases("WIND", {{"W1", "UBC 97"}, {"W4", "None"}}) + kUbcRowOfW1);
+  EXPECT_EQ(TextOfLoads(run), kUbcBlockOfW1);
 }
 
 TEST(WindClosingLine, TableWithoutRecordsHasNone) {
   for (const char* code : {"BOCA 96", "UBC 97", "ASCE 7-98", "NBCC 95"}) {
     SCOPED_TRACE(code);
     const ConversionRun run =
-        Convert(WindLoads({{"W4", code}}) + kUbcRowOfW1 + kAsceRowOfW2 + kNbccRowOfW3);
+        Convert(AutomaticCases("WIND", {{"W4", code}}) + kUbcRowOfW1 + kAsceRowOfW2 + kNbccRowOfW3);
     EXPECT_EQ(run.Section("*STLDCASE"),
               "*STLDCASE    ; Static Load Cases\n"
               "; LCNAME, LCTYPE, DESC\n"
               "\tW4,     W, \n"
               "\n");
-    EXPECT_EQ(Loads(run), "");
+    EXPECT_EQ(TextOfLoads(run), "");
   }
 }
 
@@ -258,20 +239,21 @@ TEST(WindClosingLine, NamesTheLastRecordOfTheWalk) {
         Row{"NBCC 95", "AUTO WIND - NBCC95", "W3"}}) {
     SCOPED_TRACE(row.Code);
     const ConversionRun run = Convert(
-        WindLoads({{"W1", row.Code}, {"W2", row.Code}, {"W3", row.Code}, {"W4", row.Code}}) +
+        AutomaticCases("WIND",
+                       {{"W1", row.Code}, {"W2", row.Code}, {"W3", row.Code}, {"W4", row.Code}}) +
         "TABLE:  \"" + row.Title +
         "\"\n   LoadCase=W1   I=1\n   LoadCase=W2   I=1\n   LoadCase=W3   I=1\n");
-    EXPECT_THAT(Loads(run), EndsWith("\n\n;End of data for load case [W1]\n\n"
-                                     ";End of data for load case [" +
-                                     std::string(row.Last) + "]\n\n"));
+    EXPECT_THAT(TextOfLoads(run), EndsWith("\n\n;End of data for load case [W1]\n\n"
+                                           ";End of data for load case [" +
+                                           std::string(row.Last) + "]\n\n"));
   }
 }
 
 TEST(WindLoads, OtherDesignTypesHaveNoWindLoad) {
   for (const char* type : {"DEAD", "LIVE", "SNOW", "QUAKE", "OTHER", "Wind"}) {
     SCOPED_TRACE(type);
-    const ConversionRun run = Convert(WindLoads({{"W1", "UBC 97"}}, type) + kUbcRowOfW1);
-    EXPECT_EQ(Loads(run), "");
+    const ConversionRun run = Convert(AutomaticCases(type, {{"W1", "UBC 97"}}) + kUbcRowOfW1);
+    EXPECT_EQ(TextOfLoads(run), "");
   }
 }
 
@@ -291,7 +273,7 @@ TABLE:  "CASE - STATIC 1 - LOAD ASSIGNMENTS"
 TABLE:  "AUTO SEISMIC - UBC97"
    LoadCase=EQ   Dir=X   Ct=0.03   R=8.5   SoilType=SC   Z=0.4   SourceType=B   SourceDist=5   I=1
 )" + kUbcRowOfW1);
-  EXPECT_EQ(Loads(run),
+  EXPECT_EQ(TextOfLoads(run),
             "*USE-STLD,         EQ\n"
             "\n"
             "*SEIS    ; Static Seismic Loads\n"
