@@ -59,42 +59,55 @@ struct Unread {
 template <class Record>
 class RowKey {
  public:
-  constexpr RowKey(KeyName name, Text Record::*target) : m_Name(name), m_Text(target) {}
-  constexpr RowKey(KeyName name, double Record::*target) : m_Name(name), m_Real(target) {}
-  constexpr RowKey(KeyName name, std::int32_t Record::*target) : m_Name(name), m_Integer(target) {}
-  constexpr RowKey(KeyName name, bool Record::*target) : m_Name(name), m_YesNo(target) {}
-  constexpr RowKey(States<Record> key) : m_Name(key.Name), m_Stated(key.Target) {}
-  constexpr RowKey(Unread key) : m_Name(key.Name) {}
+  constexpr RowKey(KeyName name, Text Record::*field)
+      : m_Name(name), m_Kind(Kind::Word), m_Text(field) {}
+  constexpr RowKey(KeyName name, double Record::*field)
+      : m_Name(name), m_Kind(Kind::Real), m_Real(field) {}
+  constexpr RowKey(KeyName name, std::int32_t Record::*field)
+      : m_Name(name), m_Kind(Kind::Integer), m_Integer(field) {}
+  constexpr RowKey(KeyName name, bool Record::*field)
+      : m_Name(name), m_Kind(Kind::YesNo), m_Flag(field) {}
+  constexpr RowKey(States<Record> key)
+      : m_Name(key.Name), m_Kind(Kind::Stated), m_Flag(key.Target) {}
+  constexpr RowKey(Unread key) : m_Name(key.Name), m_Kind(Kind::Unread) {}
 
   /// A key of the part that the record has in common with others.
   template <class Common>
   requires std::derived_from<Record, Common>
   constexpr RowKey(const RowKey<Common>& key)
       : m_Name(key.m_Name),
+        m_Kind(static_cast<Kind>(key.m_Kind)),
         m_Text(key.m_Text),
         m_Real(key.m_Real),
         m_Integer(key.m_Integer),
-        m_YesNo(key.m_YesNo),
-        m_Stated(key.m_Stated) {}
+        m_Flag(key.m_Flag) {}
 
   void Read(const RowScan& row, TextStore& store, Record& record) const {
-    if (!IsRead()) {
+    if (m_Kind == Kind::Unread) {
       return;
     }
     const auto value = row.FindValue(m_Name);
     if (!value) {
       return;
     }
-    if (m_Text != nullptr) {
-      Store(record, m_Text, CStrParser::FirstString(*value, store));
-    } else if (m_Real != nullptr) {
-      Store(record, m_Real, CStrParser::FirstDouble(*value));
-    } else if (m_Integer != nullptr) {
-      Store(record, m_Integer, TruncateToInteger(CStrParser::FirstDouble(*value)));
-    } else if (m_YesNo != nullptr) {
-      Store(record, m_YesNo, CStrParser::IsYes(CStrParser::FirstString(*value, store)));
-    } else {
-      Store(record, m_Stated, true);
+    switch (m_Kind) {
+      case Kind::Word:
+        Store(record, m_Text, CStrParser::FirstString(*value, store));
+        break;
+      case Kind::Real:
+        Store(record, m_Real, CStrParser::FirstDouble(*value));
+        break;
+      case Kind::Integer:
+        Store(record, m_Integer, TruncateToInteger(CStrParser::FirstDouble(*value)));
+        break;
+      case Kind::YesNo:
+        Store(record, m_Flag, CStrParser::IsYes(CStrParser::FirstString(*value, store)));
+        break;
+      case Kind::Stated:
+        Store(record, m_Flag, true);
+        break;
+      case Kind::Unread:
+        break;
     }
   }
 
@@ -102,26 +115,23 @@ class RowKey {
   template <class AnyRecord>
   friend class RowKey;
 
+  enum class Kind : std::uint8_t { Word, Real, Integer, YesNo, Stated, Unread };
+
   template <class Field>
-  static void Store(Record& record, Field Record::*target, Field value) {
+  static void Store(Record& record, Field Record::*field, Field value) {
     // A record that is smaller than a field has none of its kind, and compilers warn of the store.
     if constexpr (sizeof(Field) <= sizeof(Record)) {
-      record.*target = value;
+      record.*field = value;
     }
   }
 
-  bool IsRead() const {
-    return m_Text != nullptr || m_Real != nullptr || m_Integer != nullptr || m_YesNo != nullptr ||
-           m_Stated != nullptr;
-  }
-
   Text m_Name;
-  // one of these at most is set
+  Kind m_Kind;
+  // The field, under its type.
   Text Record::*m_Text = nullptr;
   double Record::*m_Real = nullptr;
   std::int32_t Record::*m_Integer = nullptr;
-  bool Record::*m_YesNo = nullptr;
-  bool Record::*m_Stated = nullptr;
+  bool Record::*m_Flag = nullptr;
 };
 
 struct NoKeysAreDeclared {};
