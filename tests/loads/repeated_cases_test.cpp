@@ -100,7 +100,7 @@ TEST(RepeatedCases, MoveTheClosingLineOfALoadCaseOfAnotherCode) {
 TEST(RepeatedCases, MoveTheClosingLineUntilTheLastBucketIsReached) {
   const std::vector<Assignment> assignments = {
       {"A", "E1"}, {"C", "E2"}, {"B", "EN"}, {"A", "E2"}, {"C", "E1"}};
-  for (const std::size_t repeats : {1, 2, 3, 4, 9, 40}) {
+  for (const unsigned repeats : {1U, 2U, 3U, 4U, 9U, 40U}) {
     SCOPED_TRACE(repeats);
     std::vector<std::string> analyses = {"B", "C"};
     analyses.insert(analyses.end(), repeats, "A");
@@ -111,10 +111,10 @@ TEST(RepeatedCases, MoveTheClosingLineUntilTheLastBucketIsReached) {
 
 TEST(RepeatedCases, MoveThatOfWindUntilItsMuchLaterLastBucketIsReached) {
   // The first key of the last bucket of 1,001 is 127,831.
-  for (const std::size_t repeats : {1, 2, 7, 360}) {
+  for (const unsigned repeats : {1U, 2U, 7U, 360U}) {
     SCOPED_TRACE(repeats);
     std::vector<Assignment> assignments = {{"A", "W1"}, {"A", "W2"}, {"B", "WN"}};
-    for (std::size_t count = 0; count < repeats; ++count) {
+    for (unsigned count = 0; count < repeats; ++count) {
       assignments.emplace_back("A", count % 3 == 0 ? "W1" : "W2");
     }
     std::vector<std::string> analyses = {"B"};
