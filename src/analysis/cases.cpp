@@ -1,5 +1,11 @@
 #include "analysis/cases.h"
 
+#include "analysis/buckling.h"
+#include "analysis/modal.h"
+#include "analysis/spectrum.h"
+#include "analysis/structure.h"
+#include "analysis/time_history.h"
+#include "bridge/moving_loads.h"
 #include "loads/load_cases.h"
 
 #include <algorithm>
@@ -17,6 +23,7 @@ struct CaseWalk {
   Conversion& Run;
   /// Linear static cases that make no difference when their name is met again.
   std::unordered_set<Text> SettledStaticCases;
+  ModalHistoryLoads ModalLoads;
 };
 
 void ConvertLinearStatic(CaseWalk& walk, const T_ANAL_D& analysis) {
@@ -24,6 +31,30 @@ void ConvertLinearStatic(CaseWalk& walk, const T_ANAL_D& analysis) {
       !ConvertStaticCase(walk.Run, analysis.Case)) {
     walk.SettledStaticCases.insert(analysis.Case);
   }
+}
+
+void ConvertModal(CaseWalk& walk, const T_ANAL_D& /*analysis*/) { ConvertModalCase(walk.Run); }
+
+void ConvertResponseSpectrum(CaseWalk& walk, const T_ANAL_D& /*analysis*/) {
+  ConvertSpectrumCase(walk.Run);
+}
+
+template <Linearity linearity>
+void ConvertModalHistory(CaseWalk& walk, const T_ANAL_D& analysis) {
+  ConvertModalHistory(walk.Run, analysis.Case, linearity, analysis.InitialCond, walk.ModalLoads);
+}
+
+template <Linearity linearity>
+void ConvertDirectHistory(CaseWalk& walk, const T_ANAL_D& analysis) {
+  ConvertDirectHistory(walk.Run, analysis.Case, linearity, analysis.InitialCond);
+}
+
+void ConvertMovingLoad(CaseWalk& walk, const T_ANAL_D& /*analysis*/) {
+  ConvertMovingControl(walk.Run);
+}
+
+void ConvertBuckling(CaseWalk& walk, const T_ANAL_D& analysis) {
+  ConvertBucklingCase(walk.Run, analysis.Case);
 }
 
 /// A kind of analysis case.
@@ -34,18 +65,31 @@ struct Kind {
 
 constexpr std::array kKinds = std::to_array<Kind>({
     {"LinStatic", ConvertLinearStatic},
+    {"LinModal", ConvertModal},
+    {"LinRespSpec", ConvertResponseSpectrum},
+    {"LinModHist", ConvertModalHistory<Linearity::Linear>},
+    {"NonModHist", ConvertModalHistory<Linearity::Nonlinear>},
+    {"LinDirHis", ConvertDirectHistory<Linearity::Linear>},  // the source's word, without a last t
+    {"NonDirHist", ConvertDirectHistory<Linearity::Nonlinear>},
+    {"LinMoving", ConvertMovingLoad},
+    {"LinBuckling", ConvertBuckling},
 });
 
 }  // namespace
 
 bool ConvertAnalysisCases(Conversion& run) {
-  CaseWalk walk{run, {}};
-  for (const auto [key, analysis] : run.Source.Rows<T_ANAL_D>().Walk()) {
+  const auto& analyses = run.Source.Rows<T_ANAL_D>();
+  if (analyses.Empty()) {
+    return true;
+  }
+  CaseWalk walk{run, {}, {}};
+  for (const auto [key, analysis] : analyses.Walk()) {
     const auto* const kind = std::ranges::find(kKinds, analysis.Type, &Kind::Type);
     if (kind != kKinds.end()) {
       kind->Convert(walk, analysis);
     }
   }
+  ConvertStructure(run);
   return true;
 }
 

@@ -13,18 +13,20 @@ namespace s2k2ngt {
 struct T_ANAL_D {
   static constexpr Text kTable = "T_ANAL_D";
   Text Case;
-  Text Type;  // its kind, "LinStatic" and the like
+  Text Type;         // its kind, "LinStatic" and the like
+  Text InitialCond;  // "Zero", or the case at whose end it starts
 };
 
 template <>
 inline constexpr RowKey<T_ANAL_D> kRowKeys<T_ANAL_D>[] = {{"Case=", &T_ANAL_D::Case},
                                                           {"Type=", &T_ANAL_D::Type},
-                                                          Unread{"InitialCond="},
+                                                          {"InitialCond=", &T_ANAL_D::InitialCond},
                                                           Unread{"ModalCase="}};
 
 // ---- Conversion ----
 
-/// Hands each analysis case to the conversion of its kind. Other kinds are passed over.
+/// Hands each analysis case to the conversion of its kind, other kinds being passed over, and
+/// settles the structure type. A model without analysis cases gets none.
 bool ConvertAnalysisCases(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -1,20 +1,196 @@
 #include "analysis/spectrum.h"
 
+#include "analysis/structure.h"
+#include "target/wrapped_list.h"
+
+#include <cmath>
+#include <concepts>
+#include <string>
+#include <utility>
+
 namespace s2k2ngt {
 
-bool CheckSpectrumFunctions(Conversion& run) {
-  if (!run.Source.Rows<T_FRSB_D>().Empty()) {
-    run.Shown.Show("IDS_S2KV8_RESP_BOCA96_Not_Convert");
+// ---- Conversion ----
+
+namespace {
+
+/// Runs of rows of one name into functions. A name that comes back opens a second function.
+template <std::derived_from<SpectrumPoint> Record>
+void ConvertFunctions(Conversion& run) {
+  const auto& rows = run.Source.Rows<Record>();
+  const T_NGT_SFNC_D empty{.NAME = {}, .GRAV = GravityInModelUnits(run.Source), .Pairs = {}};
+  T_NGT_SFNC_D function = empty;
+  for (std::uint32_t key = 1; key <= rows.Count(); ++key) {
+    const Record row = RecordOr(rows.Find(key), Record{});
+    if (key > 1 && row.Name != function.NAME) {
+      run.Target.Table<T_NGT_SFNC_D>().Append(std::exchange(function, empty));
+    }
+    function.NAME = row.Name;
+    function.Pairs.push_back({row.Period, row.Accel});
   }
-  if (!run.Source.Rows<T_FRSF_D>().Empty()) {
-    run.Shown.Show("IDS_S2KV8_RESP_FILE_Not_Convert");
+  if (!rows.Empty()) {
+    run.Target.Table<T_NGT_SFNC_D>().Append(std::move(function));
   }
-  if (!run.Source.Rows<T_FRSH_D>().Empty()) {
-    run.Shown.Show("IDS_S2KV8_RESP_NHERP97_Not_Convert");
+}
+
+}  // namespace
+
+bool ConvertSpectrumFunctions(Conversion& run) {
+  ShowIfLost<T_FRSB_D>(run);
+  ConvertFunctions<T_FRSE_D>(run);
+  ShowIfLost<T_FRSF_D>(run);
+  ConvertFunctions<T_FRSI_D>(run);
+  ConvertFunctions<T_FRSN_D>(run);
+  ShowIfLost<T_FRSH_D>(run);
+  ShowIfLost<T_FRSZ_D>(run);
+  ConvertFunctions<T_FRC4_D>(run);
+  ConvertFunctions<T_FRC7_D>(run);
+  ConvertFunctions<T_FRSU_D>(run);
+  return true;
+}
+
+namespace {
+
+/// What subtracting 360 over and over gives for an angle above it: at most 360.
+double WithinFullTurn(double angle) {
+  if (!(angle > 360.0) || std::isinf(angle)) {
+    return angle;
   }
-  if (!run.Source.Rows<T_FRSZ_D>().Empty()) {
-    run.Shown.Show("IDS_S2KV8_RESP_NZS4203_Not_Convert");
+  const double rest = std::fmod(angle, 360.0);
+  return rest == 0.0 ? 360.0 : rest;
+}
+
+/// The spectrum load cases while they are made. A source case of several rows becomes several load
+/// cases, whose names count.
+class SpectrumLoads {
+ public:
+  explicit SpectrumLoads(CNgtModel& target) : m_Target(target) {}
+
+  /// Takes a row into the load case in hand. Function and direction stay where the row states none.
+  void Take(const T_RSP2_D& row) {
+    m_Pending.CASE = row.Case;
+    if (!row.Function.empty()) {
+      m_Pending.FUNC = row.Function;
+    }
+    if (!row.LoadName.empty()) {
+      m_Pending.DIR = row.LoadName == "U1" || row.LoadName == "U2" ? "XY" : "Z";
+    }
+    m_Pending.ANGLE = WithinFullTurn(row.LoadName == "U2" ? row.Angle + 90.0 : row.Angle);
+    m_Pending.SCALE = std::abs(row.TransAccSF) >= kTolerance ? row.TransAccSF : 1.0;
+    m_PreviousCase = row.Case;
   }
+
+  /// Stores the load case in hand. Meant so: it takes a number when the next row is of its case,
+  /// and at the end of the table; the last row of a case that another follows bears the bare name.
+  void Flush(Text caseOfNextRow) {
+    std::string name(m_PreviousCase);
+    if (caseOfNextRow == m_PreviousCase) {
+      name += std::to_string(++m_Suffix);
+    } else {
+      m_Suffix = 0;
+    }
+    m_Pending.NAME = m_Target.Texts().Keep(name);
+    m_Target.Table<T_NGT_SPLC_D>().Append(m_Pending);
+  }
+
+ private:
+  CNgtModel& m_Target;
+  T_NGT_SPLC_D m_Pending;
+  Text m_PreviousCase;
+  std::int32_t m_Suffix = 0;
+};
+
+}  // namespace
+
+bool ConvertSpectrumLoads(Conversion& run) {
+  const auto& rows = run.Source.Rows<T_RSP2_D>();
+  SpectrumLoads loads(run.Target);
+  for (std::uint32_t key = 1; key <= rows.Count(); ++key) {
+    const T_RSP2_D row = RecordOr(rows.Find(key), T_RSP2_D{});
+    if (row.CoordSys != "GLOBAL") {
+      // Meant so: as the last row it takes the load case in hand with it, and as the first it
+      // leaves an empty one.
+      run.Warnings.bSpectrumLoadLost = true;
+      continue;
+    }
+    if (key > 1) {
+      loads.Flush(row.Case);
+    }
+    loads.Take(row);
+    if (key == rows.Count()) {
+      loads.Flush(row.Case);
+    }
+  }
+  return true;
+}
+
+void ConvertSpectrumCase(Conversion& run) {
+  const auto& definitions = run.Source.Rows<T_RSP1_D>();
+  if (definitions.Empty()) {
+    return;
+  }
+  const T_RSP1_D definition = RecordOr(definitions.Find(1), T_RSP1_D{});
+  run.Target.Control<T_NGT_SPCT_D>() = {
+      .TYPE = definition.ModalCombo,
+      .DAMPING = definition.ModalCombo == "CQC" ? definition.ConstDamp : 0.0,
+      .bWrite = true};
+  run.Target.NeedAnalCtrl = true;
+}
+
+// ---- Output ----
+
+bool WriteSpectrumFunctions(Conversion& run, LineWriter& out) {
+  const auto& functions = run.Target.Table<T_NGT_SFNC_D>();
+  if (functions.Empty()) {
+    return true;
+  }
+  out.WriteLine("%s\n", "*SFUNCTION    ; Specturm Function");
+  out.WriteLine("; FUNC=NAME, iTYPE, SCALE, GRAV, DESC          ; line 1\n");
+  out.WriteLine(";      PERIOD1, VALUE1, PERIOD2, VALUE2, ...   ; from line 2\n");
+  for (std::uint32_t key = 1; key <= functions.Count(); ++key) {
+    const T_NGT_SFNC_D& function = *functions.Find(key);
+    out.WriteLine("\tFUNC=%s, %5d, %5g, %5g, %5s\n", function.NAME, 2, 1.0, function.GRAV, "");
+    out.WriteLine("\t\t");
+    const std::size_t count = function.Pairs.size();
+    for (std::size_t index = 0; index < count; ++index) {
+      const SpectrumPair& pair = function.Pairs[index];
+      out.WriteLine("%g, %5g%s", pair.PERIOD, pair.VALUE,
+                    SeparatorBehindFourThenThree(index, count));
+    }
+    out.WriteLine("\n");
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+bool WriteSpectrumLoads(Conversion& run, LineWriter& out) {
+  const auto& loads = run.Target.Table<T_NGT_SPLC_D>();
+  if (loads.Empty()) {
+    return true;
+  }
+  if (run.Warnings.bSpectrumLoadLost) {
+    run.Shown.Show("IDS_S2KV8_RESP_SPLC_Not_Convert");
+  }
+  out.WriteLine("%s\n", "*SPLDCASE    ; Spectrum Load Cases");
+  out.WriteLine("; NAME, FUNC, DIR, ANGLE, SCALE, DESC\n");
+  for (std::uint32_t key = 1; key <= loads.Count(); ++key) {
+    const T_NGT_SPLC_D& load = *loads.Find(key);
+    out.WriteLine("\t%s, %5s, %5s, %5g, %5g, %5s\n", load.NAME, load.FUNC, load.DIR, load.ANGLE,
+                  load.SCALE, "");
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+bool WriteSpectrumControl(Conversion& run, LineWriter& out) {
+  const auto& control = run.Target.Control<T_NGT_SPCT_D>();
+  if (!control.bWrite) {
+    return true;
+  }
+  out.WriteLine("%s\n", "*SPEC-CTRL    ; Response Spectrum Analysis Control");
+  out.WriteLine("; TYPE, DAMPING, bADDSIGN\n");
+  out.WriteLine("\t%s, %5g, %5s\n", control.TYPE, control.DAMPING, "NO");
+  out.WriteLine("\n");
   return true;
 }
 

@@ -9,34 +9,49 @@
 
 namespace s2k2ngt {
 
-/// One keyed table for each kind of record, made when first asked for. References to a table stay
-/// valid as long as the set.
+/// One keyed table for each kind of record, or the one record of a kind that has no more, made when
+/// first asked for. References to a table and to such a record stay valid as long as the set.
 class RecordTables {
  public:
   /// The table of the records; `bucketCount` is that of a table made now.
   template <class Record>
   CKeyedTable<Record>& Of(std::uint32_t bucketCount) {
-    std::unique_ptr<AnyTable>& table = m_Tables[typeid(Record)];
+    std::unique_ptr<Any>& table = m_Tables[typeid(Record)];
     if (table == nullptr) {
       table = std::make_unique<TableOf<Record>>(bucketCount);
     }
     return static_cast<TableOf<Record>&>(*table).Records;
   }
 
+  /// The record of a kind that has only one.
+  template <class Record>
+  Record& Only() {
+    std::unique_ptr<Any>& only = m_Only[typeid(Record)];
+    if (only == nullptr) {
+      only = std::make_unique<OnlyOf<Record>>();
+    }
+    return static_cast<OnlyOf<Record>&>(*only).Value;
+  }
+
  private:
-  struct AnyTable {
-    AnyTable() = default;
-    virtual ~AnyTable() = default;
-    AnyTable(const AnyTable&) = delete;
-    AnyTable& operator=(const AnyTable&) = delete;
+  struct Any {
+    Any() = default;
+    virtual ~Any() = default;
+    Any(const Any&) = delete;
+    Any& operator=(const Any&) = delete;
   };
   template <class Record>
-  struct TableOf : AnyTable {
+  struct TableOf : Any {
     explicit TableOf(std::uint32_t bucketCount) : Records(bucketCount) {}
     CKeyedTable<Record> Records;
   };
+  template <class Record>
+  struct OnlyOf : Any {
+    Record Value;
+  };
 
-  std::unordered_map<std::type_index, std::unique_ptr<AnyTable>> m_Tables;
+  std::unordered_map<std::type_index, std::unique_ptr<Any>> m_Tables;
+  std::unordered_map<std::type_index, std::unique_ptr<Any>> m_Only;
 };
 
 }  // namespace s2k2ngt

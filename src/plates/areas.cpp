@@ -174,9 +174,7 @@ bool CheckAreaModifiers(Conversion& run) {
 }
 
 bool CheckAreaGravityLoads(Conversion& run) {
-  if (!run.Source.Rows<T_ALGR_D>().Empty()) {
-    run.Shown.Show("IDS_S2KV8_NOCONVERT_AREA_GRAV");
-  }
+  ShowIfLost<T_ALGR_D>(run);
   return true;
 }
 

@@ -84,10 +84,13 @@ inline constexpr RowKey<T_ASPR_D> kRowKeys<T_ASPR_D>[] = {
 /// Gravity loads of areas; the stages only ask whether there are any.
 struct T_ALGR_D {
   static constexpr Text kTable = "T_ALGR_D";
+  static constexpr MessageKey kLostMessage = "IDS_S2KV8_NOCONVERT_AREA_GRAV";
 };
 
 template <>
-inline constexpr NoRowKeys<T_ALGR_D> kRowKeys<T_ALGR_D>{};
+inline constexpr RowKey<T_ALGR_D> kRowKeys<T_ALGR_D>[] = {
+    Unread{"Area="},        Unread{"LoadCase="},    Unread{"CoordSys="},
+    Unread{"MultiplierX="}, Unread{"MultiplierY="}, Unread{"MultiplierZ="}};
 
 /// Section modifiers of areas. Their table is refused, so that there are never any.
 struct T_ASMD_D {

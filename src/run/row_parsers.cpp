@@ -1,7 +1,18 @@
 #include "run/row_parsers.h"
 
+#include "analysis/buckling.h"
 #include "analysis/cases.h"
+#include "analysis/combinations.h"
+#include "analysis/history_damping.h"
+#include "analysis/history_loads.h"
+#include "analysis/modal.h"
 #include "analysis/spectrum.h"
+#include "analysis/structure.h"
+#include "analysis/time_functions.h"
+#include "analysis/time_history.h"
+#include "bridge/lanes.h"
+#include "bridge/moving_loads.h"
+#include "bridge/vehicles.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
 #include "frames/initial_forces.h"
@@ -36,19 +47,29 @@ namespace {
 struct Entry {
   Text Record;
   RowParser Parse;
+  TableUse Use;
 };
+
+template <class Record>
+constexpr TableUse UseOf() {
+  if constexpr (requires { Record::kLostMessage; }) {
+    return {kKeyUses<Record>, Record::kLostMessage};
+  } else {
+    return {kKeyUses<Record>, std::nullopt};
+  }
+}
 
 /// The table of a record whose rows are none of them refused.
 template <class Record>
 constexpr Entry Rows() {
-  return {Record::kTable, StoreRows<Record>};
+  return {Record::kTable, StoreRows<Record>, UseOf<Record>()};
 }
 
 constexpr std::array kRowParsers = std::to_array<Entry>({
-    {kActiveDegreesOfFreedom, StoreActiveDegreesOfFreedom},
-    {kCoordinateSystem, StoreCoordinateSystem},
-    {kUnits, StoreUnits},
-    {T_JTCD_D::kTable, StoreJoints},
+    {kActiveDegreesOfFreedom, StoreActiveDegreesOfFreedom, UseOf<ActiveDegreesOfFreedom>()},
+    {kCoordinateSystem, StoreCoordinateSystem, UseOf<CoordinateSystem>()},
+    {kUnits, StoreUnits, UseOf<ProgramControl>()},
+    {T_JTCD_D::kTable, StoreJoints, UseOf<T_JTCD_D>()},
     Rows<T_JTRA_D>(),
     Rows<T_JTUC_D>(),
     Rows<T_JTSC_D>(),
@@ -137,17 +158,73 @@ constexpr std::array kRowParsers = std::to_array<Entry>({
     Rows<T_WAS8_D>(),
     Rows<T_WNBC_D>(),
     Rows<T_ANAL_D>(),
+    Rows<T_MSMS_D>(),
+    Rows<T_MDL1_D>(),
+    Rows<T_MDL2_D>(),
+    Rows<T_MDL3_D>(),
+    Rows<T_BKL1_D>(),
+    Rows<T_BKL2_D>(),
+    Rows<T_RSP1_D>(),
+    Rows<T_RSP2_D>(),
+    Rows<T_RSP3_D>(),
+    Rows<T_RSP4_D>(),
+    Rows<T_RSP5_D>(),
     Rows<T_FRSB_D>(),
+    Rows<T_FRSE_D>(),
     Rows<T_FRSF_D>(),
+    Rows<T_FRSI_D>(),
+    Rows<T_FRSN_D>(),
     Rows<T_FRSH_D>(),
     Rows<T_FRSZ_D>(),
+    Rows<T_FRC4_D>(),
+    Rows<T_FRC7_D>(),
+    Rows<T_FRSU_D>(),
+    Rows<T_MDH1_D>(),
+    Rows<T_MDH2_D>(),
+    Rows<T_MDH3_D>(),
+    Rows<T_MDH4_D>(),
+    Rows<T_MDH5_D>(),
+    Rows<T_MDH6_D>(),
+    Rows<T_DRH1_D>(),
+    Rows<T_DRH2_D>(),
+    Rows<T_DRH3_D>(),
+    Rows<T_DRH4_D>(),
+    Rows<T_DRH5_D>(),
+    Rows<T_FTHC_D>(),
+    Rows<T_FTHF_D>(),
+    Rows<T_FTHP_D>(),
+    Rows<T_FTHR_D>(),
+    Rows<T_FTHS_D>(),
+    Rows<T_FTHT_D>(),
+    Rows<T_FTHU_D>(),
+    Rows<T_FTHW_D>(),
+    Rows<T_COMB_D>(),
+    Rows<T_BLLN_D>(),
+    Rows<T_BLSV_D>(),
+    Rows<T_BLGV1_D>(),
+    Rows<T_BLGV2_D>(),
+    Rows<T_BLVC_D>(),
+    Rows<T_BLBR_D>(),
+    Rows<T_MVL1_D>(),
+    Rows<T_MVL2_D>(),
+    Rows<T_MVL3_D>(),
 });
+
+const Entry* FindEntry(Text recordName) {
+  const auto* const entry = std::ranges::find(kRowParsers, recordName, &Entry::Record);
+  return entry == kRowParsers.end() ? nullptr : entry;
+}
 
 }  // namespace
 
 RowParser FindRowParser(Text recordName) {
-  const auto* const entry = std::ranges::find(kRowParsers, recordName, &Entry::Record);
-  return entry == kRowParsers.end() ? nullptr : entry->Parse;
+  const Entry* const entry = FindEntry(recordName);
+  return entry == nullptr ? nullptr : entry->Parse;
+}
+
+std::optional<TableUse> UseOfTable(Text recordName) {
+  const Entry* const entry = FindEntry(recordName);
+  return entry == nullptr ? std::nullopt : std::optional(entry->Use);
 }
 
 }  // namespace s2k2ngt

@@ -1,11 +1,27 @@
 #pragma once
 
+#include "common/messages.h"
 #include "source/model.h"
+
+#include <optional>
+#include <span>
 
 namespace s2k2ngt {
 
 /// The parser of the rows that a stored table of the catalogue holds; null for a table that nothing
 /// reads, whose rows are then passed over.
 RowParser FindRowParser(Text recordName);
+
+/// What the conversion takes from a table.
+struct TableUse {
+  /// The keys of its rows; none for a table whose rows nothing reads.
+  std::span<const KeyUse> Keys;
+  /// The message about a table for which the target has no like.
+  std::optional<MessageKey> Lost;
+};
+
+/// The use of a stored table of the catalogue, as its record declares it; nothing for a table that
+/// nothing reads.
+std::optional<TableUse> UseOfTable(Text recordName);
 
 }  // namespace s2k2ngt

@@ -1,6 +1,17 @@
 #include "run/sections.h"
 
+#include "analysis/buckling.h"
+#include "analysis/combinations.h"
 #include "analysis/controls.h"
+#include "analysis/history_loads.h"
+#include "analysis/modal.h"
+#include "analysis/spectrum.h"
+#include "analysis/structure.h"
+#include "analysis/time_functions.h"
+#include "analysis/time_history.h"
+#include "bridge/lanes.h"
+#include "bridge/moving_loads.h"
+#include "bridge/vehicles.h"
 #include "frames/end_conditions.h"
 #include "frames/initial_forces.h"
 #include "frames/materials.h"
@@ -18,12 +29,6 @@
 #include "target/head.h"
 
 namespace s2k2ngt {
-namespace {
-
-/// A place that is kept for a section that is not written yet.
-bool NotWrittenYet(Conversion& /*run*/, LineWriter& /*out*/) { return true; }
-
-}  // namespace
 
 const std::array<Section, 37> kSections = {{
     {"*VERSION, *UNIT", WriteVersionAndUnit},
@@ -47,22 +52,22 @@ const std::array<Section, 37> kSections = {{
     {"*NL-PROP", WriteLinkProperties},
     {"*NL-LINK", WriteNonlinearLinks},
     {"*RIGIDLINK", WriteRigidLinks},
-    {"*LINELANE", NotWrittenYet},
-    {"*VEHICLE", NotWrittenYet},
-    {"*VCLASS", NotWrittenYet},
-    {"*MVLDCASE", NotWrittenYet},
-    {"*SFUNCTION", NotWrittenYet},
-    {"*SPLDCASE", NotWrittenYet},
-    {"*LOADTOMASS", NotWrittenYet},
-    {"*ANAL-CTRL", NotWrittenYet},
-    {"*SPEC-CTRL", NotWrittenYet},
-    {"*EIGEN-CTRL", NotWrittenYet},
+    {"*LINELANE", WriteLanes},
+    {"*VEHICLE", WriteVehicles},
+    {"*VCLASS", WriteVehicleClasses},
+    {"*MVLDCASE, *MOVE-CTRL", WriteMovingLoads},
+    {"*SFUNCTION", WriteSpectrumFunctions},
+    {"*SPLDCASE", WriteSpectrumLoads},
+    {"*LOADTOMASS", WriteLoadsToMass},
+    {"*ANAL-CTRL", WriteAnalysisControl},
+    {"*SPEC-CTRL", WriteSpectrumControl},
+    {"*EIGEN-CTRL", WriteEigenvalueControl},
     {"*BUCK-CTRL", WriteBucklingControl},
-    {"*TFUNCTION", NotWrittenYet},
-    {"*THLDCASE", NotWrittenYet},
-    {"*GROUND-ACC", NotWrittenYet},
-    {"*DYN-SLOAD", NotWrittenYet},
-    {"*LOADCOMB", NotWrittenYet},
+    {"*TFUNCTION", WriteTimeFunctions},
+    {"*THLDCASE", WriteTimeHistories},
+    {"*GROUND-ACC", WriteGroundAccelerations},
+    {"*DYN-SLOAD", WriteTimeVaryingLoads},
+    {"*LOADCOMB", WriteCombinations},
 }};
 
 }  // namespace s2k2ngt

@@ -1,7 +1,12 @@
 #include "run/stages.h"
 
 #include "analysis/cases.h"
+#include "analysis/combinations.h"
+#include "analysis/controls.h"
 #include "analysis/spectrum.h"
+#include "bridge/lanes.h"
+#include "bridge/moving_loads.h"
+#include "bridge/vehicles.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
 #include "frames/initial_forces.h"
@@ -27,9 +32,6 @@
 
 namespace s2k2ngt {
 namespace {
-
-/// A place that is kept for data that is not converted yet.
-bool NotConvertedYet(Conversion& /*run*/) { return true; }
 
 /// Runs the steps of a group. A step that fails ends itself and not the run.
 bool RunGroup(std::span<const Stage> steps, Conversion& run) {
@@ -100,16 +102,16 @@ const std::array<Stage, 19> kStages = {{
     {"materials", ConvertMaterials},
     {"frame sections", ConvertSections},
     {"area sections", ConvertThicknesses},
-    {"lanes", NotConvertedYet},
-    {"standard vehicles", NotConvertedYet},
-    {"general vehicles", NotConvertedYet},
-    {"vehicle classes", NotConvertedYet},
-    {"moving load cases", NotConvertedYet},
-    {"spectrum functions", CheckSpectrumFunctions},
-    {"response spectrum cases", NotConvertedYet},
+    {"lanes", ConvertLanes},
+    {"standard vehicles", ConvertStandardVehicles},
+    {"general vehicles", ConvertGeneralVehicles},
+    {"vehicle classes", ConvertVehicleClasses},
+    {"moving load cases", ConvertMovingLoads},
+    {"spectrum functions", ConvertSpectrumFunctions},
+    {"response spectrum cases", ConvertSpectrumLoads},
     {"analysis cases", ConvertAnalysisCases},
-    {"analysis control", NotConvertedYet},
-    {"load combinations", NotConvertedYet},
+    {"analysis control", ConvertAnalysisControl},
+    {"load combinations", ConvertCombinations},
 }};
 
 }  // namespace s2k2ngt

@@ -82,6 +82,9 @@ class RowKey {
         m_Integer(key.m_Integer),
         m_Flag(key.m_Flag) {}
 
+  constexpr Text Name() const { return m_Name; }
+  constexpr bool IsRead() const { return m_Kind != Kind::Unread; }
+
   void Read(const RowScan& row, TextStore& store, Record& record) const {
     if (m_Kind == Kind::Unread) {
       return;
@@ -154,6 +157,32 @@ consteval std::array<RowKey<Record>, CommonCount + OwnCount> JoinKeys(
   }
   (std::make_index_sequence<CommonCount>(), std::make_index_sequence<OwnCount>());
 }
+
+/// The keys that a record has in common with others, when it has no more.
+template <class Record, class Common, std::size_t Count>
+consteval std::array<RowKey<Record>, Count> JoinKeys(const RowKey<Common> (&common)[Count]) {
+  return [&]<std::size_t... I>(std::index_sequence<I...>) {
+    return std::array<RowKey<Record>, Count>{common[I]...};
+  }
+  (std::make_index_sequence<Count>());
+}
+
+/// A key of a table, and whether the conversion has a use for it.
+struct KeyUse {
+  Text Name;
+  bool IsRead;
+};
+
+/// The uses of a record's keys, in their order.
+template <class Record>
+inline constexpr auto kKeyUses = [] {
+  std::array<KeyUse, std::size(kRowKeys<Record>)> uses{};
+  std::size_t index = 0;
+  for (const RowKey<Record>& key : kRowKeys<Record>) {
+    uses[index++] = {key.Name(), key.IsRead()};
+  }
+  return uses;
+}();
 
 template <class Record>
 Record ParseRow([[maybe_unused]] const RowScan& row, [[maybe_unused]] TextStore& store) {

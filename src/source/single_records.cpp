@@ -16,23 +16,7 @@ RowScan FirstRow(TableRows rows) {
   return row;
 }
 
-/// A coordinate system. Where it lies plays no part: joints state their coordinates in the global
-/// system.
-struct CoordinateSystem {
-  Text Type = "Cartesian";
-};
-
 }  // namespace
-
-template <>
-inline constexpr RowKey<ActiveDegreesOfFreedom> kRowKeys<ActiveDegreesOfFreedom>[] = {
-    {"UX=", &ActiveDegreesOfFreedom::UX}, {"UY=", &ActiveDegreesOfFreedom::UY},
-    {"UZ=", &ActiveDegreesOfFreedom::UZ}, {"RX=", &ActiveDegreesOfFreedom::RX},
-    {"RY=", &ActiveDegreesOfFreedom::RY}, {"RZ=", &ActiveDegreesOfFreedom::RZ}};
-
-template <>
-inline constexpr RowKey<CoordinateSystem> kRowKeys<CoordinateSystem>[] = {
-    {"Type=", &CoordinateSystem::Type}};
 
 std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model,
                                                    Messages& /*shown*/) {
@@ -56,7 +40,7 @@ std::optional<Refusal> StoreUnits(TableRows rows, CModel& model, Messages& /*sho
   // As with every row: what this one does not state is the default, whatever an earlier block said.
   Units units;
   std::vector<std::string> words;
-  if (CStrParser::GetStrings(FirstRow(rows), "CurrUnits=", words)) {
+  if (CStrParser::GetStrings(FirstRow(rows), kUnitsKey, words)) {
     if (words.size() < 3) {
       throw InvalidArgumentException("CurrUnits= must name force, length and temperature");
     }

@@ -4,6 +4,34 @@
 
 namespace s2k2ngt {
 
+template <>
+inline constexpr RowKey<ActiveDegreesOfFreedom> kRowKeys<ActiveDegreesOfFreedom>[] = {
+    {"UX=", &ActiveDegreesOfFreedom::UX}, {"UY=", &ActiveDegreesOfFreedom::UY},
+    {"UZ=", &ActiveDegreesOfFreedom::UZ}, {"RX=", &ActiveDegreesOfFreedom::RX},
+    {"RY=", &ActiveDegreesOfFreedom::RY}, {"RZ=", &ActiveDegreesOfFreedom::RZ}};
+
+/// A coordinate system. Where it lies plays no part: joints state their coordinates in the global
+/// system.
+struct CoordinateSystem {
+  Text Type = "Cartesian";
+};
+
+template <>
+inline constexpr RowKey<CoordinateSystem> kRowKeys<CoordinateSystem>[] = {
+    {"Type=", &CoordinateSystem::Type}};
+
+/// Force, length and temperature as a list.
+inline constexpr KeyName kUnitsKey = "CurrUnits=";
+
+/// The program control row, which names the units.
+struct ProgramControl {
+  Text CurrUnits;
+};
+
+template <>
+inline constexpr RowKey<ProgramControl> kRowKeys<ProgramControl>[] = {
+    {kUnitsKey, &ProgramControl::CurrUnits}};
+
 // The tables of which the model keeps one record, that of the first row of their block. Each throws
 // InvalidArgumentException when the block has no row: a file that announces its units and states
 // none cannot be trusted to be in the units that it would get by default.

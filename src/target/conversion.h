@@ -31,7 +31,14 @@ struct DeferredWarnings {
   bool bAreaSpringLost = false;
   bool bSingleJointLink = false;
   bool bPlatePressureLost = false;
-  bool bLoadCaseLost = false;  ///< no stage sets it yet; the test of its writer is there
+  bool bLoadCaseLost = false;
+  bool bSpectrumLoadLost = false;
+  bool bBucklingLoadLost = false;
+  bool bHistoryDampingLost = false;
+  bool bHistoryDataLost = false;
+  bool bHistoryMethodLost = false;
+  bool bTimeFunctionLost = false;
+  bool bMaxLoadedChanged = false;
 };
 
 /// All that a stage works on, and a writer with it. It lives as long as the run.
@@ -42,6 +49,14 @@ struct Conversion {
   DeferredWarnings& Warnings;
   Messages& Shown;
 };
+
+/// Shows the message of a table for which the target has no like, if the table has rows.
+template <class Record>
+void ShowIfLost(Conversion& run) {
+  if (!run.Source.Rows<Record>().Empty()) {
+    run.Shown.Show(Record::kLostMessage);
+  }
+}
 
 /// Below this absolute value a number of the source file counts as zero.
 inline constexpr double kTolerance = 1e-15;

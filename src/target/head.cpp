@@ -33,18 +33,6 @@ bool WriteVersionAndUnit(Conversion& run, LineWriter& out) {
   return true;
 }
 
-bool WriteStructureType(Conversion& run, LineWriter& out) {
-  const T_NGT_STYP_D& type = run.Target.StructureType;
-  if (!type.bWrite) {
-    return true;
-  }
-  out.WriteLine("%s\n", "*STRUCTYPE    ; Structure Type");
-  out.WriteLine("; iSTYP, iSMAS, GRAV, TEMPER, bALIGNBEAM, bALIGNSLAB\n");
-  out.WriteLine("\t%d, %5d, %5g, %5g, %5s, %5s\n\n", type.iSTYP, type.iSMAS, type.GRAV, type.TEMPER,
-                type.bALIGNBEAM, type.bALIGNSLAB);
-  return true;
-}
-
 void WriteFileEnd(LineWriter& out) { out.WriteLine("*ENDDATA"); }
 
 }  // namespace s2k2ngt

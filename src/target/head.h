@@ -12,9 +12,6 @@ void WriteFileHead(const std::string& outputPath, LineWriter& out);
 /// Writes *VERSION and *UNIT.
 bool WriteVersionAndUnit(Conversion& run, LineWriter& out);
 
-/// Writes *STRUCTYPE when the model's flag is set.
-bool WriteStructureType(Conversion& run, LineWriter& out);
-
 /// Writes the line that ends the file, without a newline behind it.
 void WriteFileEnd(LineWriter& out);
 

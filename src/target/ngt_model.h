@@ -18,19 +18,9 @@ struct MAP_NODE {
 /// `static constexpr std::uint32_t kBuckets`.
 inline constexpr std::uint32_t kTargetBuckets = 10'001;
 
-/// The structure type command, which the analysis cases fill.
-struct T_NGT_STYP_D {
-  std::int32_t iSTYP = 0;
-  std::int32_t iSMAS = 0;
-  double GRAV = 9.806;
-  double TEMPER = 0.0;
-  Text bALIGNBEAM = "NO";
-  Text bALIGNSLAB = "NO";
-  bool bWrite = false;
-};
-
-/// The output file as tables of target records, one for each kind of record. The stages fill it and
-/// the writers print it. The room of a record's topic declares it.
+/// The output file as tables of target records, one for each kind of record, and control records
+/// and the like, of which there is one for each kind. The stages fill it and the writers print it.
+/// The room of a record's topic declares it.
 class CNgtModel {
  public:
   /// The table of a record, empty at first.
@@ -49,6 +39,12 @@ class CNgtModel {
     Table<Record>().Insert(key, record);
   }
 
+  /// The control record of a kind.
+  template <class Record>
+  Record& Control() {
+    return m_Tables.Only<Record>();
+  }
+
   /// The node number of a joint's label. Found: `iNode` is set; not found: it is left and the
   /// result is false. An empty map counts as found and leaves `iNode`.
   bool FindNodeByLabel(Text label, std::int32_t& iNode) const;
@@ -62,7 +58,7 @@ class CNgtModel {
 
   CKeyedTable<MAP_NODE> m_NodeMap{kTargetBuckets};
   bool NodeLabelsNumeric = true;
-  T_NGT_STYP_D StructureType;
+  bool NeedAnalCtrl = false;  // an analysis case calls for *ANAL-CTRL
 
   // Set where something is lost, shown by the writer of the section concerned.
   bool bSectionMultiSegment = false;

@@ -74,6 +74,21 @@ std::vector<std::string> ConversionRun::Lines(std::string_view command) const {
   return DataLines(Section(command));
 }
 
+std::string ConversionRun::Between(std::string_view first, std::string_view next) const {
+  const std::size_t begin = Output.find(first);
+  if (begin == std::string::npos) {
+    return {};
+  }
+  const std::size_t end = Output.find(next, begin + first.size());
+  return end == std::string::npos ? std::string() : Output.substr(begin, end - begin);
+}
+
+std::string ConversionRun::Body() const {
+  const std::string_view last = Section("*STRUCTYPE").empty() ? "*UNIT" : "*STRUCTYPE";
+  const std::size_t begin = Output.find("\n\n", Output.find(last)) + 2;
+  return Output.substr(begin, Output.rfind("*ENDDATA") - begin);
+}
+
 std::string ConversionRun::LoadBlock(std::string_view loadCase, std::string_view command) const {
   const std::string padding(std::max<std::size_t>(loadCase.size(), 10) - loadCase.size(), ' ');
   const std::string opening = "*USE-STLD, " + padding + std::string(loadCase) + "\n\n";

@@ -62,6 +62,12 @@ struct ConversionRun {
   /// The data lines of a section: those that begin with a tab.
   std::vector<std::string> Lines(std::string_view command) const;
 
+  /// The output from the first place where it reads `first` up to the next where it reads `next`,
+  /// for commands that hold empty lines. Empty when it does not read so.
+  std::string Between(std::string_view first, std::string_view next) const;
+  /// All that stands behind *UNIT, and *STRUCTYPE if there is one, up to *ENDDATA.
+  std::string Body() const;
+
   /// What a command writes for a load case, from *USE-STLD to the closing line and the newline
   /// behind it. Empty when it writes nothing for the load case.
   std::string LoadBlock(std::string_view loadCase, std::string_view command) const;

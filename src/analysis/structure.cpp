@@ -1,0 +1,113 @@
+#include "analysis/structure.h"
+
+#include "target/wrapped_list.h"
+
+#include <array>
+#include <string>
+
+namespace s2k2ngt {
+
+// ---- Conversion ----
+
+double GravityInModelUnits(const CModel& source) {
+  struct LengthUnit {
+    Text Name;
+    double Factor;
+  };
+  // Meant so: the metric factors run the other way from those of inches and feet. The outputs that
+  // readers of the target have were made with them.
+  constexpr std::array kLengthUnits = std::to_array<LengthUnit>(
+      {{"M", 1.0}, {"CM", 0.01}, {"MM", 0.001}, {"IN", 39.3701}, {"FT", 3.2808}});
+  constexpr double kGravity = 9.806;
+  const std::string length = ToUpper(source.CurrentUnits().Length);
+  for (const auto& [name, factor] : kLengthUnits) {
+    if (name == length) {
+      return factor * kGravity;
+    }
+  }
+  return kGravity;
+}
+
+namespace {
+
+/// Mass sources into loads to mass. True when the elements have mass as well.
+bool ConvertMassSources(Conversion& run) {
+  bool haveElementsMass = false;
+  for (const auto [key, source] : run.Source.Rows<T_MSMS_D>().Walk()) {
+    if (source.MassFrom != "Elements") {
+      auto& loadsToMass = run.Target.Control<T_NGT_LTMS_D>();
+      loadsToMass.GRAV = GravityInModelUnits(run.Source);
+      loadsToMass.Loads.push_back({source.LoadCase, source.Multiplier});
+      loadsToMass.bWrite = true;
+    }
+    haveElementsMass = haveElementsMass || source.MassFrom != "Loads";
+  }
+  return haveElementsMass;
+}
+
+/// The plane that the active translations leave, or space.
+std::int32_t StructureTypeOf(const ActiveDegreesOfFreedom& freedom) {
+  if (freedom.UX && !freedom.UY && freedom.UZ) {
+    return 1;
+  }
+  if (!freedom.UX && freedom.UY && freedom.UZ) {
+    return 2;
+  }
+  if (freedom.UX && freedom.UY && !freedom.UZ) {
+    return 3;
+  }
+  return 0;
+}
+
+/// The directions of self mass: all of them in space, vertical ones too in the upright planes.
+std::int32_t SelfMassOf(std::int32_t structureType) {
+  constexpr std::array<std::int32_t, 4> kSelfMasses = {1, 3, 3, 2};
+  return kSelfMasses.at(static_cast<std::size_t>(structureType));
+}
+
+}  // namespace
+
+void ConvertStructure(Conversion& run) {
+  const bool haveElementsMass = ConvertMassSources(run);
+  const std::int32_t type = StructureTypeOf(run.Source.Freedom());
+  run.Target.Control<T_NGT_STYP_D>() = {.iSTYP = type,
+                                        .iSMAS = haveElementsMass ? SelfMassOf(type) : 0,
+                                        .GRAV = GravityInModelUnits(run.Source),
+                                        .bWrite = true};
+}
+
+// ---- Output ----
+
+bool WriteStructureType(Conversion& run, LineWriter& out) {
+  const auto& type = run.Target.Control<T_NGT_STYP_D>();
+  if (!type.bWrite) {
+    return true;
+  }
+  out.WriteLine("%s\n", "*STRUCTYPE    ; Structure Type");
+  out.WriteLine("; iSTYP, iSMAS, GRAV, TEMPER, bALIGNBEAM, bALIGNSLAB\n");
+  out.WriteLine("\t%d, %5d, %5g, %5g, %5s, %5s\n\n", type.iSTYP, type.iSMAS, type.GRAV, 0.0, "NO",
+                "NO");
+  return true;
+}
+
+bool WriteLoadsToMass(Conversion& run, LineWriter& out) {
+  const auto& loadsToMass = run.Target.Control<T_NGT_LTMS_D>();
+  if (!loadsToMass.bWrite) {
+    return true;
+  }
+  // The command has no line of its own: its name stands in its line of data.
+  out.WriteLine("; *LOADTOMASS, DIR, bNODAL, bBEAM, bFLOOR, bPRES, GRAV\n");
+  out.WriteLine(";     LCNAME1, FACTOR1, LCNAME2, FACTOR2, ...   ; from line 1\n");
+  out.WriteLine("\t*LOADTOMASS, %5s, %5s, %5s, %5s, %5s, %5g\n", "XYZ", "YES", "YES", "YES", "YES",
+                loadsToMass.GRAV);
+  const std::size_t count = loadsToMass.Loads.size();
+  for (std::size_t index = 0; index < count; ++index) {
+    const LoadOfMass& load = loadsToMass.Loads[index];
+    out.WriteLine("\t%s, %5g%s", load.LCNAME, load.FACTOR,
+                  SeparatorBehindOneThenFive(index, count));
+  }
+  out.WriteLine("\n");
+  return true;
+}
+
+}  // namespace s2k2ngt
