@@ -49,7 +49,7 @@ TEST_P(GoldenConversion, GivesTheExpectedBytesAndMessages) {
 
 INSTANTIATE_TEST_SUITE_P(Examples, GoldenConversion,
                          testing::Values("portal_frame", "office_building", "alphanumeric_labels",
-                                         "isolated_foundation"),
+                                         "isolated_foundation", "highway_bridge", "seismic_frame"),
                          [](const auto& example) { return example.param; });
 
 }  // namespace
