@@ -86,7 +86,7 @@ bool ConvertCombinations(Conversion& run) {
     current.Terms.push_back({AnalysisWord(run, row.CaseType), row.CaseName, row.ScaleFactor});
     previousName = row.ComboName;
     if (key == rows.Count()) {
-      combinations.Append(std::move(current));
+      combinations.Append(std::exchange(current, {}));
     }
   }
   return true;

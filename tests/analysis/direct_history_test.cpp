@@ -1,6 +1,5 @@
 #include "support/conversion_run.h"
 
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,22 +15,20 @@ using testing::IsEmpty;
 constexpr const char* kDataLost = "IDS_S2KV8_THLC_Data_Not_Convert";
 constexpr const char* kMethodLost = "IDS_S2KV8_TMHT_NewMark_Only_Convert";
 
-std::string Table(std::string_view title, std::string_view rows) {
-  return "TABLE:  \"" + std::string(title) + "\"\n" + std::string(rows) + "\n";
+std::string Analyses(std::string_view rows) {
+  return SourceTable("ANALYSIS CASE DEFINITIONS", rows);
 }
-
-std::string Analyses(std::string_view rows) { return Table("ANALYSIS CASE DEFINITIONS", rows); }
 std::string Definitions(std::string_view rows) {
-  return Table("CASE - DIRECT HISTORY 1 - GENERAL", rows);
+  return SourceTable("CASE - DIRECT HISTORY 1 - GENERAL", rows);
 }
 std::string Dampings(std::string_view rows) {
-  return Table("CASE - DIRECT HISTORY 3 - PROPORTIONAL DAMPING", rows);
+  return SourceTable("CASE - DIRECT HISTORY 3 - PROPORTIONAL DAMPING", rows);
 }
 std::string Methods(std::string_view rows) {
-  return Table("CASE - DIRECT HISTORY 4 - INTEGRATION PARAMETERS", rows);
+  return SourceTable("CASE - DIRECT HISTORY 4 - INTEGRATION PARAMETERS", rows);
 }
 std::string Parameters(std::string_view rows) {
-  return Table("CASE - DIRECT HISTORY 5 - NONLINEAR PARAMETERS", rows);
+  return SourceTable("CASE - DIRECT HISTORY 5 - NONLINEAR PARAMETERS", rows);
 }
 
 const std::string kLinear = Analyses("   Case=BLAST   Type=LinDirHis   InitialCond=Zero\n");
@@ -46,18 +43,11 @@ const std::string kLinearAndModal = Analyses(
     "   Case=BLAST   Type=LinDirHis   InitialCond=Zero\n"
     "   Case=WIND   Type=LinModHist   InitialCond=Zero\n");
 const std::string kModal =
-    Table("CASE - MODAL HISTORY 1 - GENERAL", "   Case=WIND   DampingType=Constant\n");
+    SourceTable("CASE - MODAL HISTORY 1 - GENERAL", "   Case=WIND   DampingType=Constant\n");
 
 /// The data lines of *THLDCASE, of a model without loads behind it.
 std::vector<std::string> HistoryLines(const ConversionRun& run) {
-  std::vector<std::string> lines;
-  std::istringstream stream(run.Between("*THLDCASE", "*ENDDATA"));
-  for (std::string line; std::getline(stream, line);) {
-    if (line.starts_with('\t')) {
-      lines.push_back(line);
-    }
-  }
-  return lines;
+  return run.LinesBetween("*THLDCASE", "*ENDDATA");
 }
 
 /// Line `number` of a model's *THLDCASE, from 1.
@@ -332,11 +322,11 @@ TEST(DirectHistory, ModalAndDirectCasesAreNumberedTogether) {
                        "   Case=BLAST   Type=LinDirHis   InitialCond=Zero\n"
                        "   Case=BLAST   Type=LinModHist   InitialCond=Zero\n") +
               kDefinition + kDamping +
-              Table("CASE - MODAL HISTORY 1 - GENERAL",
-                    "   Case=WIND   DampingType=Constant   ConstDamp=0.02\n"
-                    "   Case=BLAST   DampingType=Constant   ConstDamp=0.03\n") +
-              Table("CASE - MODAL HISTORY 5 - DAMPING OVERRIDES",
-                    "   Case=BLAST   Mode=1   Damping=0.01\n"));
+              SourceTable("CASE - MODAL HISTORY 1 - GENERAL",
+                          "   Case=WIND   DampingType=Constant   ConstDamp=0.02\n"
+                          "   Case=BLAST   DampingType=Constant   ConstDamp=0.03\n") +
+              SourceTable("CASE - MODAL HISTORY 5 - DAMPING OVERRIDES",
+                          "   Case=BLAST   Mode=1   Damping=0.01\n"));
   EXPECT_THAT(
       HistoryLines(run),
       ElementsAre("\tNAME=BLAST,      ", "\t\t0,     0,     1,     1,      ,     1,     1,     2",

@@ -1,4 +1,5 @@
 #include "support/conversion_run.h"
+#include "support/time_histories.h"
 
 #include <sstream>
 #include <string>
@@ -14,32 +15,6 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 
-/// Modal history cases TH1 and TH2 and direct ones BLAST and SHOCK, with these analysis cases,
-/// modal load rows and direct load rows. The function PULSE has its points, and LOST has none.
-std::string Model(std::string_view analyses, std::string_view modalLoads,
-                  std::string_view directLoads) {
-  return "TABLE:  \"ANALYSIS CASE DEFINITIONS\"\n" + std::string(analyses) + R"(
-TABLE:  "CASE - MODAL HISTORY 1 - GENERAL"
-   Case=TH1   DampingType=Constant
-   Case=TH2   DampingType=Constant
-
-TABLE:  "CASE - DIRECT HISTORY 1 - GENERAL"
-   Case=BLAST   OutSteps=10   StepSize=1
-   Case=SHOCK   OutSteps=10   StepSize=1
-
-TABLE:  "CASE - DIRECT HISTORY 3 - PROPORTIONAL DAMPING"
-   Case=BLAST   SpecifyType=Direct   MassCoeff=0.3
-   Case=SHOCK   SpecifyType=Direct   MassCoeff=0.3
-
-TABLE:  "FUNCTION - TIME HISTORY - USER"
-   Name=PULSE   Time=0   Value=0
-   Name=PULSE   Time=1   Value=1
-
-TABLE:  "CASE - MODAL HISTORY 2 - LOAD ASSIGNMENTS"
-)" + std::string(modalLoads) +
-         "\nTABLE:  \"CASE - DIRECT HISTORY 2 - LOAD ASSIGNMENTS\"\n" + std::string(directLoads);
-}
-
 constexpr std::string_view kModal = "   Case=TH1   Type=LinModHist   InitialCond=Zero\n";
 constexpr std::string_view kDirect = "   Case=BLAST   Type=LinDirHis   InitialCond=Zero\n";
 /// Analysis cases 1 and 2 are walked 2, 1: the modal case comes first.
@@ -51,7 +26,7 @@ constexpr std::string_view kFunctionOnly = "   Case=TH1   LoadType=None   Functi
 
 TEST(HistoryLoads, SectionsAreWrittenOneBehindTheOther) {
   // Load rows 1 and 2 are walked 2, 1.
-  const ConversionRun run = Convert(Model(
+  const ConversionRun run = Convert(ModalAndDirectCases(
       kModal,
       R"(   Case=TH1   LoadType=Accel   LoadName="Accel U1"   Function=PULSE   TransAccSF=9.81   ArrivalTime=2   Angle=30
    Case=TH1   LoadType="Load case"   LoadName=LIVE   Function=PULSE   LoadSF=3   ArrivalTime=1.5   Angle=40
@@ -109,10 +84,11 @@ TEST(HistoryLoads, LoadNameSaysTheDirectionWhoseArrivalTimeIsTheAngle) {
         "   LoadType=Accel   Function=PULSE   TransAccSF=9.81   CoordSys=GLOBAL   ArrivalTime=2   "
         "Angle=30   " +
         std::string(loadName) + "\n";
-    EXPECT_THAT(Convert(Model(kModal, "   Case=TH1" + load, "")).Lines("*GROUND-ACC"),
+    EXPECT_THAT(Convert(ModalAndDirectCases(kModal, "   Case=TH1" + load, "")).Lines("*GROUND-ACC"),
                 ElementsAre(modal));
-    EXPECT_THAT(Convert(Model(kDirect, "", "   Case=BLAST" + load)).Lines("*GROUND-ACC"),
-                ElementsAre(direct));
+    EXPECT_THAT(
+        Convert(ModalAndDirectCases(kDirect, "", "   Case=BLAST" + load)).Lines("*GROUND-ACC"),
+        ElementsAre(direct));
   }
 }
 
@@ -139,10 +115,11 @@ TEST(HistoryLoads, LoadTypeSaysTheCommandAndOnlyAModalCaseKnowsPatterns) {
     const std::string load =
         "   LoadName=LIVE   Function=PULSE   LoadSF=5   ArrivalTime=2   Angle=30   " +
         std::string(loadType) + "\n";
-    const ConversionRun modalRun = Convert(Model(kModal, "   Case=TH1" + load, ""));
+    const ConversionRun modalRun = Convert(ModalAndDirectCases(kModal, "   Case=TH1" + load, ""));
     EXPECT_THAT(modalRun.Lines("*DYN-SLOAD"), ElementsAreArray(modal));
     EXPECT_EQ(modalRun.Lines("*GROUND-ACC").size(), isAcceleration ? 1U : 0U);
-    const ConversionRun directRun = Convert(Model(kDirect, "", "   Case=BLAST" + load));
+    const ConversionRun directRun =
+        Convert(ModalAndDirectCases(kDirect, "", "   Case=BLAST" + load));
     EXPECT_THAT(directRun.Lines("*DYN-SLOAD"), ElementsAreArray(direct));
     EXPECT_EQ(directRun.Lines("*GROUND-ACC").size(), isAcceleration ? 1U : 0U);
     if (modal.empty()) {
@@ -179,19 +156,20 @@ TEST(HistoryLoads, TimeVaryingLoadsComeInTheWalkOverKeysGivenInTheWalkOverRows) 
       loads += "   Case=TH1   LoadType=\"Load case\"   LoadName=L" + number +
                "   Function=PULSE   ArrivalTime=" + number + "\n";
     }
-    EXPECT_THAT(Convert(Model(kModal, loads, "")).Lines("*DYN-SLOAD"), ElementsAreArray(lines));
+    EXPECT_THAT(Convert(ModalAndDirectCases(kModal, loads, "")).Lines("*DYN-SLOAD"),
+                ElementsAreArray(lines));
   }
 }
 
 TEST(HistoryLoads, TimeVaryingLoadsOfModalAndDirectCasesAreNumberedTogether) {
   // Keys 1 and 2 are the modal rows 2 and 1, keys 3 and 4 the direct rows 2 and 1; they are
   // written 2, 4, 1, 3.
-  const ConversionRun run =
-      Convert(Model(kModalThenDirect,
-                    R"(   Case=TH1   LoadType="Load case"   LoadName=L1   Function=PULSE
+  const ConversionRun run = Convert(
+      ModalAndDirectCases(kModalThenDirect,
+                          R"(   Case=TH1   LoadType="Load case"   LoadName=L1   Function=PULSE
    Case=TH1   LoadType="Load case"   LoadName=L2   Function=PULSE
 )",
-                    R"(   Case=BLAST   LoadType="Load case"   LoadName=L3   Function=PULSE
+                          R"(   Case=BLAST   LoadType="Load case"   LoadName=L3   Function=PULSE
    Case=BLAST   LoadType="Load case"   LoadName=L4   Function=PULSE
 )"));
   EXPECT_THAT(
@@ -224,21 +202,22 @@ std::vector<std::string> WrittenAccelerations(const ConversionRun& run) {
 
 TEST(HistoryLoads, AccelerationsOfAModalCaseBeginAtKeyTwo) {
   // Rows 1, 2, 3 are walked 2, 1, 3 and get the keys 2, 3, 4, written 3, 2, 4.
-  EXPECT_THAT(WrittenAccelerations(Convert(Model(kModal, Accelerations("TH1", {1, 2, 3}), ""))),
+  EXPECT_THAT(WrittenAccelerations(
+                  Convert(ModalAndDirectCases(kModal, Accelerations("TH1", {1, 2, 3}), ""))),
               ElementsAre("\tTH1, PULSE,     1,     1", "\tTH1, PULSE,     1,     2",
                           "\tTH1, PULSE,     1,     3"));
   // Rows 1 to 5 are walked 5, 2, 4, 1, 3 and get the keys 2 to 6, written 3, 6, 2, 5, 4.
-  EXPECT_THAT(
-      WrittenAccelerations(Convert(Model(kModal, Accelerations("TH1", {1, 2, 3, 4, 5}), ""))),
-      ElementsAre("\tTH1, PULSE,     1,     2", "\tTH1, PULSE,     1,     3",
-                  "\tTH1, PULSE,     1,     5", "\tTH1, PULSE,     1,     1",
-                  "\tTH1, PULSE,     1,     4"));
+  EXPECT_THAT(WrittenAccelerations(
+                  Convert(ModalAndDirectCases(kModal, Accelerations("TH1", {1, 2, 3, 4, 5}), ""))),
+              ElementsAre("\tTH1, PULSE,     1,     2", "\tTH1, PULSE,     1,     3",
+                          "\tTH1, PULSE,     1,     5", "\tTH1, PULSE,     1,     1",
+                          "\tTH1, PULSE,     1,     4"));
 }
 
 TEST(HistoryLoads, AccelerationsOfADirectCaseBeginAtKeyOne) {
   // Rows 1, 2, 3 are walked 2, 1, 3 and get the keys 1, 2, 3, written 3, 2, 1.
-  EXPECT_THAT(WrittenAccelerations(Convert(
-                  Model(kModalThenDirect, kFunctionOnly, Accelerations("BLAST", {1, 2, 3})))),
+  EXPECT_THAT(WrittenAccelerations(Convert(ModalAndDirectCases(kModalThenDirect, kFunctionOnly,
+                                                               Accelerations("BLAST", {1, 2, 3})))),
               ElementsAre("\tBLAST, PULSE,     1,     3", "\tBLAST, PULSE,     1,     1",
                           "\tBLAST, PULSE,     1,     2"));
 }
@@ -247,18 +226,18 @@ TEST(HistoryLoads, AccelerationOfADirectCaseReplacesTheLastOneOfAModalCase) {
   // The modal rows 2 and 1 get the keys 2 and 3, written 3, 2; the direct rows 2 and 1 both get
   // the key 3, since the number of records stays 2.
   const std::string modal = Accelerations("TH1", {1, 2});
-  EXPECT_THAT(
-      WrittenAccelerations(Convert(Model(kModalThenDirect, modal, Accelerations("BLAST", {11})))),
-      ElementsAre("\tBLAST, PULSE,     1,    11", "\tTH1, PULSE,     1,     2"));
-  EXPECT_THAT(WrittenAccelerations(
-                  Convert(Model(kModalThenDirect, modal, Accelerations("BLAST", {11, 12})))),
+  EXPECT_THAT(WrittenAccelerations(Convert(
+                  ModalAndDirectCases(kModalThenDirect, modal, Accelerations("BLAST", {11})))),
+              ElementsAre("\tBLAST, PULSE,     1,    11", "\tTH1, PULSE,     1,     2"));
+  EXPECT_THAT(WrittenAccelerations(Convert(
+                  ModalAndDirectCases(kModalThenDirect, modal, Accelerations("BLAST", {11, 12})))),
               ElementsAre("\tBLAST, PULSE,     1,    11", "\tTH1, PULSE,     1,     2"));
 }
 
 TEST(HistoryLoads, ModalCaseBehindAReplacedAccelerationTakesTheNextKey) {
   // Analysis cases 1, 2, 3 are walked 2, 1, 3. TH1 gets the keys 2 and 3, BLAST replaces 3, and
   // TH2 gets 4, written 3, 2, 4. Modal load rows 1, 2, 3 are walked 2, 1, 3.
-  const ConversionRun run = Convert(Model(
+  const ConversionRun run = Convert(ModalAndDirectCases(
       R"(   Case=BLAST   Type=LinDirHis   InitialCond=Zero
    Case=TH1   Type=LinModHist   InitialCond=Zero
    Case=TH2   Type=LinModHist   InitialCond=Zero
@@ -272,7 +251,7 @@ TEST(HistoryLoads, ModalCaseBehindAReplacedAccelerationTakesTheNextKey) {
 TEST(HistoryLoads, DirectCaseAheadOfAModalOneLosesNoAcceleration) {
   // Analysis cases 1 and 2 are walked 2, 1. BLAST gets the key 1 and ends there, its function being
   // unknown; TH1 gets 3, written 3, 1.
-  const ConversionRun run = Convert(Model(
+  const ConversionRun run = Convert(ModalAndDirectCases(
       R"(   Case=TH1   Type=LinModHist   InitialCond=Zero
    Case=BLAST   Type=LinDirHis   InitialCond=Zero
 )",
@@ -287,18 +266,19 @@ TEST(HistoryLoads, UnknownFunctionEndsTheLoadsOfADirectCaseBehindItsOwn) {
   const std::string known = R"(   Case=BLAST   LoadType="Load case"   LoadName=L2   Function=PULSE
 )";
   // Rows 1, 2, 3 are walked 2, 1, 3; keys 1 and 2 are written 2, 1.
-  const ConversionRun run = Convert(Model(kModalThenDirect, kFunctionOnly, lost + known + known));
+  const ConversionRun run =
+      Convert(ModalAndDirectCases(kModalThenDirect, kFunctionOnly, lost + known + known));
   EXPECT_THAT(run.Lines("*DYN-SLOAD"), ElementsAre("\tBLAST,    L1,  LOST,     0,     1",
                                                    "\tBLAST,    L2, PULSE,     0,     1"));
   EXPECT_THAT(run.Messages, IsEmpty());
   // The case stays, and so do the loads of the next one.
   EXPECT_NE(run.Output.find("\tNAME=BLAST,"), std::string::npos);
   EXPECT_THAT(
-      Convert(Model(R"(   Case=BLAST   Type=LinDirHis   InitialCond=Zero
+      Convert(ModalAndDirectCases(
+                  R"(   Case=BLAST   Type=LinDirHis   InitialCond=Zero
    Case=SHOCK   Type=LinDirHis   InitialCond=Zero
 )",
-                    "",
-                    known + R"(   Case=SHOCK   LoadType="Load case"   LoadName=L3   Function=LOST
+                  "", known + R"(   Case=SHOCK   LoadType="Load case"   LoadName=L3   Function=LOST
 )"))
           .Lines("*DYN-SLOAD"),
       // Analysis cases 1 and 2 are walked 2, 1, which are the keys 1 and 2, written 2, 1.
@@ -307,12 +287,12 @@ TEST(HistoryLoads, UnknownFunctionEndsTheLoadsOfADirectCaseBehindItsOwn) {
 
 TEST(HistoryLoads, FunctionWithoutPointsEndsTheLoadsOfAModalCaseBehindItsOwn) {
   // Rows 1, 2, 3 are walked 2, 1, 3; keys 1 and 2 are written 2, 1.
-  const ConversionRun run =
-      Convert(Model(kModal, R"(   Case=TH1   LoadType="Load case"   LoadName=L1   Function=LOST
+  const ConversionRun run = Convert(ModalAndDirectCases(
+      kModal, R"(   Case=TH1   LoadType="Load case"   LoadName=L1   Function=LOST
    Case=TH1   LoadType="Load case"   LoadName=L2   Function=PULSE
    Case=TH1   LoadType="Load case"   LoadName=L3   Function=PULSE
 )",
-                    ""));
+      ""));
   EXPECT_THAT(run.Lines("*DYN-SLOAD"), ElementsAre("\tTH1,    L1,  LOST,     0,     1",
                                                    "\tTH1,    L2, PULSE,     0,     1"));
   EXPECT_NE(run.Output.find("\tNAME=TH1,"), std::string::npos);

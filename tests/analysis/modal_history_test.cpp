@@ -1,6 +1,5 @@
 #include "support/conversion_run.h"
 
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,22 +16,20 @@ using testing::IsEmpty;
 constexpr const char* kDampingLost = "IDS_S2KV8_MDHT_IntpDamp_Not_Convert";
 constexpr const char* kDataLost = "IDS_S2KV8_THLC_Data_Not_Convert";
 
-std::string Table(std::string_view title, std::string_view rows) {
-  return "TABLE:  \"" + std::string(title) + "\"\n" + std::string(rows) + "\n";
+std::string Analyses(std::string_view rows) {
+  return SourceTable("ANALYSIS CASE DEFINITIONS", rows);
 }
-
-std::string Analyses(std::string_view rows) { return Table("ANALYSIS CASE DEFINITIONS", rows); }
 std::string Definitions(std::string_view rows) {
-  return Table("CASE - MODAL HISTORY 1 - GENERAL", rows);
+  return SourceTable("CASE - MODAL HISTORY 1 - GENERAL", rows);
 }
 std::string Dampings(std::string_view rows) {
-  return Table("CASE - MODAL HISTORY 4 - PROPORTIONAL DAMPING", rows);
+  return SourceTable("CASE - MODAL HISTORY 4 - PROPORTIONAL DAMPING", rows);
 }
 std::string Modes(std::string_view rows) {
-  return Table("CASE - MODAL HISTORY 5 - DAMPING OVERRIDES", rows);
+  return SourceTable("CASE - MODAL HISTORY 5 - DAMPING OVERRIDES", rows);
 }
 std::string Parameters(std::string_view rows) {
-  return Table("CASE - MODAL HISTORY 6 - NONLINEAR PARAMETERS", rows);
+  return SourceTable("CASE - MODAL HISTORY 6 - NONLINEAR PARAMETERS", rows);
 }
 
 const std::string kLinear = Analyses("   Case=QUAKE   Type=LinModHist   InitialCond=Zero\n");
@@ -49,14 +46,7 @@ const std::string kAnother = "   Case=WIND   DampingType=Constant\n";
 
 /// The data lines of *THLDCASE, of a model without loads behind it.
 std::vector<std::string> HistoryLines(const ConversionRun& run) {
-  std::vector<std::string> lines;
-  std::istringstream stream(run.Between("*THLDCASE", "*ENDDATA"));
-  for (std::string line; std::getline(stream, line);) {
-    if (line.starts_with('\t')) {
-      lines.push_back(line);
-    }
-  }
-  return lines;
+  return run.LinesBetween("*THLDCASE", "*ENDDATA");
 }
 
 /// Line `number` of a model's *THLDCASE, from 1.
@@ -314,7 +304,7 @@ TEST(ModalHistory, CaseOfAnyOtherDampingTypeIsLostWithAMessage) {
     SCOPED_TRACE(type);
     const std::string lost = "   Case=QUAKE   OutSteps=10   " + std::string(type) + "\n";
     // Its damping by period is read and has no place to go.
-    const std::string points = Table(
+    const std::string points = SourceTable(
         "CASE - MODAL HISTORY 3 - INTERPOLATED DAMPING",
         "   Case=QUAKE   Period=0.1   Damping=0.02\n   Case=QUAKE   Period=1   Damping=0.05\n");
     const ConversionRun alone = Convert(kLinear + Definitions(lost) + points);
@@ -458,27 +448,28 @@ TEST(ModalHistory, OnlyAConvertedCaseNeedsTheAnalysisControl) {
 }
 
 TEST(ModalHistory, MessagesComeOnceEachFunctionsFirst) {
-  const ConversionRun run = Convert(
-      Analyses("   Case=INTP1   Type=LinModHist   InitialCond=Zero\n"
-               "   Case=INTP2   Type=LinModHist   InitialCond=Zero\n"
-               "   Case=NODAMP1   Type=LinModHist   InitialCond=Zero\n"
-               "   Case=NODAMP2   Type=LinModHist   InitialCond=Zero\n"
-               "   Case=WILSON   Type=LinDirHis   InitialCond=Zero\n"
-               "   Case=QUAKE   Type=LinModHist   InitialCond=Zero\n") +
-      Definitions("   Case=INTP1   DampingType=Interpolated\n"
-                  "   Case=INTP2   DampingType=Interpolated\n"
-                  "   Case=NODAMP1   DampingType=Pro-Direct\n"
-                  "   Case=NODAMP2   DampingType=Pro-Freq\n"
-                  "   Case=QUAKE   DampingType=Constant\n") +
-      Table("CASE - MODAL HISTORY 2 - LOAD ASSIGNMENTS",
-            "   Case=QUAKE   LoadType=Accel   Function=SINE\n"
-            "   Case=QUAKE   LoadType=Accel   Function=PULSE\n") +
-      Table("CASE - DIRECT HISTORY 1 - GENERAL", "   Case=WILSON   OutSteps=10   StepSize=1\n") +
-      Table("CASE - DIRECT HISTORY 3 - PROPORTIONAL DAMPING",
-            "   Case=WILSON   SpecifyType=Direct   MassCoeff=0.3\n") +
-      Table("CASE - DIRECT HISTORY 4 - INTEGRATION PARAMETERS",
-            "   Case=WILSON   IntMethod=Wilson   Theta=1.4\n") +
-      Table("FUNCTION - TIME HISTORY - USER", "   Name=PULSE   Time=0   Value=1\n"));
+  const ConversionRun run =
+      Convert(Analyses("   Case=INTP1   Type=LinModHist   InitialCond=Zero\n"
+                       "   Case=INTP2   Type=LinModHist   InitialCond=Zero\n"
+                       "   Case=NODAMP1   Type=LinModHist   InitialCond=Zero\n"
+                       "   Case=NODAMP2   Type=LinModHist   InitialCond=Zero\n"
+                       "   Case=WILSON   Type=LinDirHis   InitialCond=Zero\n"
+                       "   Case=QUAKE   Type=LinModHist   InitialCond=Zero\n") +
+              Definitions("   Case=INTP1   DampingType=Interpolated\n"
+                          "   Case=INTP2   DampingType=Interpolated\n"
+                          "   Case=NODAMP1   DampingType=Pro-Direct\n"
+                          "   Case=NODAMP2   DampingType=Pro-Freq\n"
+                          "   Case=QUAKE   DampingType=Constant\n") +
+              SourceTable("CASE - MODAL HISTORY 2 - LOAD ASSIGNMENTS",
+                          "   Case=QUAKE   LoadType=Accel   Function=SINE\n"
+                          "   Case=QUAKE   LoadType=Accel   Function=PULSE\n") +
+              SourceTable("CASE - DIRECT HISTORY 1 - GENERAL",
+                          "   Case=WILSON   OutSteps=10   StepSize=1\n") +
+              SourceTable("CASE - DIRECT HISTORY 3 - PROPORTIONAL DAMPING",
+                          "   Case=WILSON   SpecifyType=Direct   MassCoeff=0.3\n") +
+              SourceTable("CASE - DIRECT HISTORY 4 - INTEGRATION PARAMETERS",
+                          "   Case=WILSON   IntMethod=Wilson   Theta=1.4\n") +
+              SourceTable("FUNCTION - TIME HISTORY - USER", "   Name=PULSE   Time=0   Value=1\n"));
   EXPECT_THAT(run.Messages, ElementsAre("IDS_S2KV8_TMHT_Func_Not_Convert", kDampingLost, kDataLost,
                                         "IDS_S2KV8_TMHT_NewMark_Only_Convert"));
 }

@@ -30,17 +30,13 @@ const std::vector<LostTable> kLostTables = {
     {"FUNCTION - RESPONSE SPECTRUM - NEHRP97", "IDS_S2KV8_RESP_NHERP97_Not_Convert"},
     {"FUNCTION - RESPONSE SPECTRUM - NZS4203", "IDS_S2KV8_RESP_NZS4203_Not_Convert"}};
 
-std::string TableOf(const char* title, const char* rows) {
-  return "TABLE:  \"" + std::string(title) + "\"\n" + rows + "\n";
-}
-
 TEST(SpectrumFunctions, TableThatIsNotConvertedShowsItsMessageOnce) {
   for (const auto& [title, message] : kLostTables) {
     SCOPED_TRACE(title);
-    const ConversionRun run = Convert(TableOf(title,
-                                              "   Name=SPEC1   Period=0   Accel=0.4\n"
-                                              "   Name=SPEC1   Period=1   Accel=0.2\n"
-                                              "   Name=SPEC2   Period=0   Accel=0.3\n"));
+    const ConversionRun run = Convert(SourceTable(title,
+                                                  "   Name=SPEC1   Period=0   Accel=0.4\n"
+                                                  "   Name=SPEC1   Period=1   Accel=0.2\n"
+                                                  "   Name=SPEC2   Period=0   Accel=0.3\n"));
     EXPECT_EQ(run.Result, 0);
     EXPECT_THAT(run.Messages, ElementsAre(message));
     EXPECT_EQ(run.Body(), "\n\n");
@@ -50,7 +46,7 @@ TEST(SpectrumFunctions, TableThatIsNotConvertedShowsItsMessageOnce) {
 TEST(SpectrumFunctions, TableInTwoBlocksShowsItsMessageOnce) {
   for (const auto& [title, message] : kLostTables) {
     SCOPED_TRACE(title);
-    const std::string block = TableOf(title, "   Name=SPEC1   Period=0   Accel=0.4\n");
+    const std::string block = SourceTable(title, "   Name=SPEC1   Period=0   Accel=0.4\n");
     EXPECT_THAT(Convert(block + block).Messages, ElementsAre(message));
   }
 }
@@ -58,7 +54,7 @@ TEST(SpectrumFunctions, TableInTwoBlocksShowsItsMessageOnce) {
 TEST(SpectrumFunctions, TableWithoutRowsShowsNoMessage) {
   for (const auto& [title, message] : kLostTables) {
     SCOPED_TRACE(title);
-    EXPECT_THAT(Convert(TableOf(title, "")).Messages, IsEmpty());
+    EXPECT_THAT(Convert(SourceTable(title, "")).Messages, IsEmpty());
   }
 }
 
@@ -185,11 +181,11 @@ TEST(SpectrumFunctions, EachCodeThatTheTargetHasGivesItsPointsAndNotItsParameter
   for (const auto& [title, parameters] : kConvertedTables) {
     SCOPED_TRACE(title);
     const std::string first = "   Name=HILL   Period=0   Accel=0.4   " + std::string(parameters);
-    const ConversionRun run = Convert(TableOf(title, (first + R"(
+    const ConversionRun run = Convert(SourceTable(title, (first + R"(
    Name=HILL   Period=0.15   Accel=1
    Name=HILL   Period=0.6   Accel=0.25
 )")
-                                                         .c_str()));
+                                                             .c_str()));
     EXPECT_THAT(run.Lines("*SFUNCTION"), ElementsAre("\tFUNC=HILL,     2,     1, 9.806,      ",
                                                      "\t\t0,   0.4,0.15,     1,0.6,  0.25"));
     EXPECT_THAT(run.Messages, IsEmpty());

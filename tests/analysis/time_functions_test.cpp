@@ -1,6 +1,6 @@
 #include "support/conversion_run.h"
+#include "support/time_histories.h"
 
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,14 +22,7 @@ std::string FunctionSection(const ConversionRun& run) {
 
 /// The lines of the functions: each function's own, and those of its points.
 std::vector<std::string> FunctionLines(const ConversionRun& run) {
-  std::vector<std::string> lines;
-  std::istringstream stream(FunctionSection(run));
-  for (std::string line; std::getline(stream, line);) {
-    if (line.starts_with('\t')) {
-      lines.push_back(line);
-    }
-  }
-  return lines;
+  return run.LinesBetween("*TFUNCTION", "*THLDCASE");
 }
 
 /// A modal history case QUAKE with these load rows, in metres, and further tables behind it.
@@ -46,35 +39,6 @@ TABLE:  "CASE - MODAL HISTORY 1 - GENERAL"
 TABLE:  "CASE - MODAL HISTORY 2 - LOAD ASSIGNMENTS"
 )" + std::string(loads) +
          std::string(functions);
-}
-
-/// Modal history cases TH1 and TH3 and direct ones BLAST and SHOCK, with these analysis cases,
-/// modal load rows and direct load rows. The function PULSE has its points, and LOST has none.
-std::string ModalAndDirectCases(std::string_view analyses, std::string_view modalLoads,
-                                std::string_view directLoads) {
-  return R"(TABLE:  "PROGRAM CONTROL"
-   CurrUnits="KN, m, C"
-
-TABLE:  "CASE - MODAL HISTORY 1 - GENERAL"
-   Case=TH1   DampingType=Constant
-   Case=TH3   DampingType=Constant
-
-TABLE:  "CASE - DIRECT HISTORY 1 - GENERAL"
-   Case=BLAST   OutSteps=10   StepSize=1
-   Case=SHOCK   OutSteps=10   StepSize=1
-
-TABLE:  "CASE - DIRECT HISTORY 3 - PROPORTIONAL DAMPING"
-   Case=BLAST   SpecifyType=Direct   MassCoeff=0.3
-   Case=SHOCK   SpecifyType=Direct   MassCoeff=0.3
-
-TABLE:  "FUNCTION - TIME HISTORY - USER"
-   Name=PULSE   Time=0   Value=0
-   Name=PULSE   Time=1   Value=1
-
-TABLE:  "ANALYSIS CASE DEFINITIONS"
-)" + std::string(analyses) +
-         "\nTABLE:  \"CASE - MODAL HISTORY 2 - LOAD ASSIGNMENTS\"\n" + std::string(modalLoads) +
-         "\nTABLE:  \"CASE - DIRECT HISTORY 2 - LOAD ASSIGNMENTS\"\n" + std::string(directLoads);
 }
 
 TEST(TimeFunctions, FunctionFromAFileWritesTheWholeSectionAndTheFileIsNotNeeded) {

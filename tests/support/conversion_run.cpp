@@ -83,6 +83,11 @@ std::string ConversionRun::Between(std::string_view first, std::string_view next
   return end == std::string::npos ? std::string() : Output.substr(begin, end - begin);
 }
 
+std::vector<std::string> ConversionRun::LinesBetween(std::string_view first,
+                                                     std::string_view next) const {
+  return DataLines(Between(first, next));
+}
+
 std::string ConversionRun::Body() const {
   const std::string_view last = Section("*STRUCTYPE").empty() ? "*UNIT" : "*STRUCTYPE";
   const std::size_t begin = Output.find("\n\n", Output.find(last)) + 2;
@@ -145,3 +150,7 @@ std::string FileWith(std::string_view tables) {
 }
 
 ConversionRun Convert(std::string_view tables) { return ConvertBytes(FileWith(tables)); }
+
+std::string SourceTable(std::string_view title, std::string_view rows) {
+  return "TABLE:  \"" + std::string(title) + "\"\n" + std::string(rows) + "\n";
+}

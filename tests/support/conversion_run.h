@@ -65,6 +65,8 @@ struct ConversionRun {
   /// The output from the first place where it reads `first` up to the next where it reads `next`,
   /// for commands that hold empty lines. Empty when it does not read so.
   std::string Between(std::string_view first, std::string_view next) const;
+  /// The data lines of that.
+  std::vector<std::string> LinesBetween(std::string_view first, std::string_view next) const;
   /// All that stands behind *UNIT, and *STRUCTYPE if there is one, up to *ENDDATA.
   std::string Body() const;
 
@@ -84,3 +86,6 @@ ConversionRun Convert(std::string_view tables);
 
 /// The bytes that Convert runs over.
 std::string FileWith(std::string_view tables);
+
+/// A source table of these rows, each with its newline, and the empty line behind it.
+std::string SourceTable(std::string_view title, std::string_view rows);
