@@ -7,18 +7,20 @@
 #include "texts.h"
 
 #include <algorithm>
+#include <set>
 
 namespace s2k2ngt::reference {
 namespace {
 
 std::string Code(Text text) { return "`" + std::string(text) + "`"; }
 
-/// The keys of one kind, without their equals signs.
+/// The keys of one kind, without their equals signs, each once.
 std::string KeysOf(const TableUse& use, bool areRead) {
   std::string keys;
+  std::set<Text> listed;
   for (const KeyUse& key : use.Keys) {
-    if (key.IsRead == areRead) {
-      const Text name = TrimLeft(key.Name.substr(0, key.Name.size() - 1));
+    const Text name = TrimLeft(key.Name.substr(0, key.Name.size() - 1));
+    if (key.IsRead == areRead && listed.insert(name).second) {
       keys += (keys.empty() ? "" : ", ") + std::string(name);
     }
   }
@@ -34,11 +36,13 @@ struct Fate {
 Fate FateOfStored(Text record) {
   const std::optional<TableUse> use = UseOfTable(record);
   if (!use) {
-    return {"not used", "", ""};
+    return {"read and not used", "", ""};
   }
   Fate fate{"", KeysOf(*use, true), KeysOf(*use, false)};
   if (use->Lost) {
     fate.Word = "refused with " + Code(use->Lost->Get());
+  } else if (use->IsChecked) {
+    fate.Word = "checked";
   } else if (fate.Read.empty()) {
     fate.Word = "read and not used";
   } else {
@@ -77,12 +81,14 @@ std::string SourceTablesPage() {
   std::string page = R"(# Source tables and what becomes of each
 
 A table is known by the first word of its title and, for most first words, by a second one that
-stands anywhere in the title; the first that fits, from top to bottom, decides. Titles that fit
-nothing are ignored.
+stands anywhere in the title; the first that fits, from top to bottom, decides. So "AREA REFERENCE
+TEMPERATURES" is taken for temperature loads, which stand above reference temperatures. Titles that
+fit nothing are ignored.
 
 - **converted**: all keys that the converter knows are used.
 - **used in part**: some keys are used, others have no place in the output.
-- **read and not used**, **not used**: the table is known and nothing of it reaches the output.
+- **checked**: nothing of it reaches the output, but the file is refused if it is not as it must be.
+- **read and not used**: the table is known and nothing of it reaches the output.
 - **refused**: nothing of it reaches the output, and the message says so.
 - **ignored**: passed over without a word.
 - **never met**: its words hold those of a table further up, which is taken instead.
@@ -116,9 +122,11 @@ Text TextOf(Text key) {
 std::string MessagesPage() {
   std::string page = R"(# Messages and when each is shown
 
-A message that is shown "at" a section appears only if the section is written, and once if nothing
-else is said. Others are shown as soon as the data is met. The texts are those of the catalogue that
-comes with the converter; hosts may have others.
+A message that is shown "at" a section appears while the output is written, only if the section is,
+and once if nothing else is said. A table that is refused is answered once for each of its blocks.
+The texts are those of the catalogue that comes with the converter; hosts may have others. A host
+without a catalogue shows "Error : DLL is not loaded. check message dll!" for all of them. One text
+stands outside the catalogue: "Cannot open input file!".
 
 )";
   for (const MessageCondition& message : kMessageConditions) {

@@ -40,6 +40,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 
 namespace s2k2ngt {
 namespace {
@@ -52,11 +53,12 @@ struct Entry {
 
 template <class Record>
 constexpr TableUse UseOf() {
+  TableUse use{.Keys = kKeyUses<Record>, .Lost = std::nullopt};
   if constexpr (requires { Record::kLostMessage; }) {
-    return {kKeyUses<Record>, Record::kLostMessage};
-  } else {
-    return {kKeyUses<Record>, std::nullopt};
+    use.Lost = Record::kLostMessage;
   }
+  use.IsChecked = std::is_same_v<Record, CoordinateSystem>;
+  return use;
 }
 
 /// The table of a record whose rows are none of them refused.

@@ -18,6 +18,8 @@ struct TableUse {
   std::span<const KeyUse> Keys;
   /// The message about a table for which the target has no like.
   std::optional<MessageKey> Lost;
+  /// True for a table that is looked at and not converted.
+  bool IsChecked = false;
 };
 
 /// The use of a stored table of the catalogue, as its record declares it; nothing for a table that

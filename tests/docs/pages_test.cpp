@@ -52,11 +52,13 @@ TEST(SourceTablesPage, TellsWhatBecomesOfATable) {
         "| `ANALYSIS` |  | used in part | Case, Type, InitialCond | ModalCase |\n",
         "| `CASE` | `MODAL 2` | read and not used |  | Case, LoadType, LoadName, TargetPar, "
         "StatCorrect |\n",
-        "| `GROUPS` | `1` | not used |  |  |\n",
+        "| `GROUPS` | `1` | read and not used |  |  |\n",
         "| `FUNCTION` | `NEHRP97` | refused with `IDS_S2KV8_RESP_NHERP97_Not_Convert` |  | Name, "
         "Period, Accel, SDS, SD1 |\n",
         "| `AREA` | `PORE` | refused with `IDS_S2KV8_AREA_PrPrsr_Not_Convert` |  |  |\n",
-        "| `GRID` |  | ignored |  |  |\n",
+        "| `GRID` |  | ignored |  |  |\n", "| `COORDINATE` |  | checked | Type |  |\n",
+        "| `JOINT` | `COORDINATES` | used in part | Joint, CoordType, XorR, Y, Z, "
+        "SpecialJt, GlobalX, GlobalY, GlobalZ | CoordSys, T |\n",
         "| `AUTO` | `SEISMIC - UBC97 ISOLATED` | never met: see above |  |  |\n"}) {
     EXPECT_THAT(page, HasSubstr(row));
   }

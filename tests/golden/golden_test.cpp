@@ -3,9 +3,11 @@
 
 #include <s2k2ngt/converter.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -47,9 +49,19 @@ TEST_P(GoldenConversion, GivesTheExpectedBytesAndMessages) {
   EXPECT_EQ(KeysShown(platform), ReadFile((golden / (name + ".messages")).string()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, GoldenConversion,
-                         testing::Values("portal_frame", "office_building", "alphanumeric_labels",
-                                         "isolated_foundation", "highway_bridge", "seismic_frame"),
+/// The names of all example models.
+std::vector<std::string> ExampleNames() {
+  std::vector<std::string> names;
+  for (const fs::directory_entry& file : fs::directory_iterator(S2K2NGT_EXAMPLES)) {
+    if (file.path().extension() == ".s2k") {
+      names.push_back(file.path().stem().string());
+    }
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, GoldenConversion, testing::ValuesIn(ExampleNames()),
                          [](const auto& example) { return example.param; });
 
 }  // namespace
