@@ -315,6 +315,16 @@ TABLE:  "CASE - MODAL HISTORY 2 - LOAD ASSIGNMENTS"
                                                    "\tTH1,  LIVE, PULSE,     0,     1"));
 }
 
+TEST(HistoryLoads, LoadsOfACaseThatStandsTwiceComeAgainInTheirOrder) {
+  // Load rows 1 and 2 are walked 2, 1 for each of the analysis cases and get the keys 2 and 3, 4
+  // and 5, which are written 3, 2, 5, 4.
+  const ConversionRun run = Convert(ModalAndDirectCases(std::string(kModal) + std::string(kModal),
+                                                        Accelerations("TH1", {1, 2}), ""));
+  EXPECT_THAT(WrittenAccelerations(run),
+              ElementsAre("\tTH1, PULSE,     1,     1", "\tTH1, PULSE,     1,     2",
+                          "\tTH1, PULSE,     1,     1", "\tTH1, PULSE,     1,     2"));
+}
+
 TEST(HistoryLoads, LoadsOfOtherNamesAndOfLostCasesAreNotConverted) {
   const ConversionRun run = Convert(R"(
 TABLE:  "ANALYSIS CASE DEFINITIONS"

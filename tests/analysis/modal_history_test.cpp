@@ -409,6 +409,16 @@ TEST(ModalHistory, MissingDampingEndsTheWalkOverTheDefinitionsOfTheCase) {
   EXPECT_THAT(run.Messages, ElementsAre(kDataLost));
 }
 
+TEST(ModalHistory, DefinitionOfAnotherDampingTellsOfItselfOnlyWhenTheWalkMeetsIt) {
+  const std::string other = "   Case=QUAKE   DampingType=Interpolated\n";
+  const std::string missing = "   Case=QUAKE   DampingType=Pro-Freq\n";
+  // Definitions 1, 2, 3 are walked 2, 1, 3; the one whose damping is missing ends the walk.
+  EXPECT_THAT(Convert(kLinearAndAnother + Definitions(other + missing + kAnother)).Messages,
+              ElementsAre(kDataLost));
+  EXPECT_THAT(Convert(kLinearAndAnother + Definitions(missing + other + kAnother)).Messages,
+              ElementsAre(kDampingLost, kDataLost));
+}
+
 TEST(ModalHistory, CaseThatStandsTwiceAmongTheAnalysesStartsAfresh) {
   // Analysis cases 1 and 2 are walked 2, 1; the records of keys 1 and 2 are written 2, 1.
   const ConversionRun run =
