@@ -1,5 +1,6 @@
 #include "command.h"
 
+#include "common/files.h"
 #include "platform/terminal/terminal_platform.h"
 
 #include <s2k2ngt/converter.h>
@@ -61,7 +62,8 @@ class CommandPlatform : public s2k2ngt::TerminalPlatform {
 
 bool WouldReplaceInput(const std::string& input, const std::string& output) {
   std::error_code noSuchFile;
-  return std::filesystem::equivalent(input, output, noSuchFile);
+  return std::filesystem::equivalent(s2k2ngt::NativePath(input), s2k2ngt::NativePath(output),
+                                     noSuchFile);
 }
 
 /// Which input of this call each output was written for.

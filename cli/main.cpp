@@ -1,10 +1,13 @@
 #include "command.h"
+#include "console.h"
 
 #include <s2k2ngt/s2k2ngt.h>
 
 #include <array>
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include <getopt.h>
 
@@ -30,7 +33,7 @@ Exit status: 0 all files converted, 1 a run was stopped, 2 at least one file
 failed, 64 wrong usage.
 )";
 
-int Run(int argc, char** argv) {
+int Run(std::vector<std::string> words) {
   enum Option : int { Json = 1, Quiet, NoProgress, ListAllMessages, Help, Version };
   constexpr std::array<option, 7> kOptions = {
       {{"json", no_argument, nullptr, Json},
@@ -40,9 +43,15 @@ int Run(int argc, char** argv) {
        {"help", no_argument, nullptr, Help},
        {"version", no_argument, nullptr, Version},
        {nullptr, 0, nullptr, 0}}};
+  std::vector<char*> arguments;
+  for (std::string& word : words) {
+    arguments.push_back(word.data());
+  }
+  const int count = static_cast<int>(arguments.size());
+  arguments.push_back(nullptr);
   CommandOptions options;
   for (;;) {
-    const int option = getopt_long(argc, argv, "", kOptions.data(), nullptr);
+    const int option = getopt_long(count, arguments.data(), "", kOptions.data(), nullptr);
     if (option == -1) {
       break;
     }
@@ -69,7 +78,7 @@ int Run(int argc, char** argv) {
         return kWrongUsage;
     }
   }
-  options.Files.assign(argv + optind, argv + argc);
+  options.Files.assign(arguments.begin() + optind, arguments.begin() + count);
   if (options.Files.empty()) {
     std::cerr << "s2k2ngt: there is no file to convert\nTry s2k2ngt --help.\n";
     return kWrongUsage;
@@ -81,7 +90,8 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   try {
-    return Run(argc, argv);
+    KeepLineEndsOfOutput();
+    return Run(CommandLineWords(argc, argv));
   } catch (const std::exception& exception) {
     std::cerr << "s2k2ngt: " << exception.what() << '\n';
     return kOneFailed;

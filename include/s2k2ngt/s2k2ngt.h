@@ -9,7 +9,7 @@
  *     char output[4096];
  *     int result = s2k2ngt_convert("bridge.s2k", &host, output, sizeof output);
  *
- * Nothing is thrown across this interface, and no window is opened.
+ * Nothing is thrown across this interface, and no window is opened but by s2k2ngt_convert_chosen.
  */
 #ifndef S2K2NGT_H
 #define S2K2NGT_H
@@ -54,6 +54,12 @@ typedef struct s2k2ngt_host {
  * `host` may be null. */
 S2K2NGT_API int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output,
                                 size_t output_size);
+
+/* The same for a file that the user chooses. Messages and progress are shown to the user, on
+ * Windows in windows and elsewhere on a terminal; of the host's call-backs only `failure` is
+ * called. Result 1 also stands for a user who chose no file. entry_points.h has the same for C++
+ * hosts. */
+S2K2NGT_API int s2k2ngt_convert_chosen(const s2k2ngt_host* host, char* output, size_t output_size);
 
 /* The library's version, such as "0.1.0". */
 S2K2NGT_API const char* s2k2ngt_version(void);

@@ -1,4 +1,6 @@
 #include "common/messages.h"
+#include "platform/default_platform.h"
+#include "run/entry_points.h"
 #include "run/message_boxes.h"
 
 #include <s2k2ngt/converter.h>
@@ -70,13 +72,13 @@ void TellFailure(const s2k2ngt_host& host, const char* reason) noexcept {
   }
 }
 
-int Convert(const char* path, const s2k2ngt_host& host, char* output, std::size_t outputSize) {
+int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char* output,
+            std::size_t outputSize) {
   const std::string outputPath = CConverter::OutputPath(path);
   if (outputSize > 0 && outputPath.size() + 1 > outputSize) {
     TellFailure(host, "the buffer for the path of the output is too small");
     return kFailed;
   }
-  CallBackPlatform platform(host);
   CConverter converter(platform);
   int result = kFailed;
   try {
@@ -93,21 +95,43 @@ int Convert(const char* path, const s2k2ngt_host& host, char* output, std::size_
   return result;
 }
 
+/// Runs `convert`, which takes the host that is known of. Nothing that it throws gets out.
+template <class Function>
+int Guard(const s2k2ngt_host* host, const char* output, std::size_t outputSize, Function convert) {
+  const s2k2ngt_host known = KnownPartOf(host);
+  if (output == nullptr && outputSize > 0) {
+    TellFailure(known, "a path or buffer is missing");
+    return kFailed;
+  }
+  try {
+    return convert(known);
+  } catch (...) {
+    TellFailure(known, "a call-back of the host threw an exception");
+    return kFailed;
+  }
+}
+
 }  // namespace
 }  // namespace s2k2ngt
 
 int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output, size_t output_size) {
-  const s2k2ngt_host known = s2k2ngt::KnownPartOf(host);
-  if (path == nullptr || (output == nullptr && output_size > 0)) {
-    s2k2ngt::TellFailure(known, "a path or buffer is missing");
-    return S2K2NGT_FAILED;
-  }
-  try {
-    return s2k2ngt::Convert(path, known, output, output_size);
-  } catch (...) {
-    s2k2ngt::TellFailure(known, "a call-back of the host threw an exception");
-    return S2K2NGT_FAILED;
-  }
+  return s2k2ngt::Guard(host, output, output_size, [&](const s2k2ngt_host& known) {
+    if (path == nullptr) {
+      s2k2ngt::TellFailure(known, "a path or buffer is missing");
+      return S2K2NGT_FAILED;
+    }
+    s2k2ngt::CallBackPlatform platform(known);
+    return s2k2ngt::Convert(path, platform, known, output, output_size);
+  });
+}
+
+int s2k2ngt_convert_chosen(const s2k2ngt_host* host, char* output, size_t output_size) {
+  return s2k2ngt::Guard(host, output, output_size, [&](const s2k2ngt_host& known) {
+    const auto platform = s2k2ngt::MakeDefaultPlatform();
+    const auto path = s2k2ngt::ChooseSourceFile(*platform);
+    return path ? s2k2ngt::Convert(path->c_str(), *platform, known, output, output_size)
+                : S2K2NGT_STOPPED;
+  });
 }
 
 const char* s2k2ngt_version(void) { return S2K2NGT_VERSION; }

@@ -7,10 +7,13 @@
 
 namespace s2k2ngt {
 
+std::optional<std::string> ChooseSourceFile(Platform& platform) {
+  return platform.ChooseFile({.DefaultExtension = ".dat",
+                              .Filter = "SAP2000(v8) Files(*.s2k)|*.s2k|All Files(*.*)|*.*||"});
+}
+
 int ConvertChosenFile(Platform& platform, std::string& output) {
-  const auto path =
-      platform.ChooseFile({.DefaultExtension = ".dat",
-                           .Filter = "SAP2000(v8) Files(*.s2k)|*.s2k|All Files(*.*)|*.*||"});
+  const auto path = ChooseSourceFile(platform);
   if (!path) {
     return kStopped;
   }

@@ -1,5 +1,7 @@
 #include "source/source_file.h"
 
+#include "common/files.h"
+
 #include <s2k2ngt/exceptions.h>
 
 #include <cerrno>
@@ -16,18 +18,18 @@ SourceFile ReadSourceFile(const std::string& path) {
   };
   SourceFile source;
   std::error_code ignored;
-  if (std::filesystem::is_directory(path, ignored)) {
+  if (std::filesystem::is_directory(NativePath(path), ignored)) {
     // Some systems open a directory like a file and fail at the first read.
     source.OpenError = "it is a directory";
     return source;
   }
-  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
+  const std::unique_ptr<std::FILE, Closer> file(OpenFile(path, "rb"));
   if (file == nullptr) {
     source.OpenError = std::generic_category().message(errno);
     return source;
   }
   std::error_code sizeUnknown;
-  const auto size = std::filesystem::file_size(path, sizeUnknown);
+  const auto size = std::filesystem::file_size(NativePath(path), sizeUnknown);
   // One byte beyond a regular file's size shows its end without growing the image.
   std::size_t room = sizeUnknown ? std::size_t{1} << 16U : static_cast<std::size_t>(size) + 1;
   std::size_t used = 0;

@@ -1,13 +1,14 @@
 #include "target/output_file.h"
 
+#include "common/files.h"
+
 #include <s2k2ngt/exceptions.h>
 
 #include <cerrno>
 
 namespace s2k2ngt {
 
-OutputFile::OutputFile(const std::string& path)
-    : m_Path(path), m_File(std::fopen(path.c_str(), "wb")) {
+OutputFile::OutputFile(const std::string& path) : m_Path(path), m_File(OpenFile(path, "wb")) {
   if (m_File == nullptr) {
     Fail("Cannot create output file");
   }

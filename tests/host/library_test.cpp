@@ -81,16 +81,20 @@ TABLE:  "FRAME INSERTION POINT ASSIGNMENTS"
 
 TEST(Library, ExportsItsEntryPointsUnderTheirNames) {
   const LoadedLibrary library("");
-  for (const char* name :
-       {"ConvertFile", "ConvertFile2", "s2k2ngt_convert", "s2k2ngt_version",
-        "s2k2ngt_message_count", "s2k2ngt_message_key", "s2k2ngt_message_text"}) {
+  for (const char* name : {"ConvertFile", "ConvertFile2", "s2k2ngt_convert",
+                           "s2k2ngt_convert_chosen", "s2k2ngt_version", "s2k2ngt_message_count",
+                           "s2k2ngt_message_key", "s2k2ngt_message_text"}) {
     EXPECT_NE(library.Find<void()>(name), nullptr) << name;
   }
 }
 
 TEST(Library, EntryPointsWithoutATerminalToAskOnEndAsDismissed) {
   const CommandRun run = RunCommand({.Words = {S2K2NGT_ENTRY_POINT_HOST}});
-  EXPECT_EQ(run.Out, "ConvertFile 1\nConvertFile2 1 as it was\n");
+  EXPECT_EQ(run.Out,
+            "ConvertFile 1\n"
+            "ConvertFile2 1 as it was\n"
+            "s2k2ngt_convert_chosen 1 as it was\n"
+            "s2k2ngt_convert_chosen 1\n");
 }
 
 TEST(Library, EntryPointsAskForTheFileOnATerminal) {
@@ -99,8 +103,14 @@ TEST(Library, EntryPointsAskForTheFileOnATerminal) {
   const CommandRun run = RunCommand({.Words = {S2K2NGT_ENTRY_POINT_HOST},
                                      .Folder = folder.Path(),
                                      .OnTerminal = true,
-                                     .Input = "tower.s2k\nno-such-file\ntower.s2k\n"});
-  EXPECT_EQ(run.Out, "ConvertFile 0\nConvertFile2 0 tower.ngt\n");
+                                     .Input = "tower.s2k\nno-such-file\ntower.s2k\ntower.s2k\n"
+                                              "tower.s2k\n"});
+  EXPECT_EQ(run.Out,
+            "ConvertFile 0\n"
+            "ConvertFile2 0 tower.ngt\n"
+            "s2k2ngt_convert_chosen 0 tower.ngt\n"
+            "the buffer for the path of the output is too small\n"
+            "s2k2ngt_convert_chosen -1\n");
   EXPECT_THAT(run.Err, testing::HasSubstr("There is no file no-such-file"));
 }
 

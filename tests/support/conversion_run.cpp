@@ -2,6 +2,7 @@
 
 #include "support/temporary_folder.h"
 
+#include <cstdlib>
 #include <sstream>
 
 std::optional<std::string> ScriptedPlatform::ChooseFile(const FileDialog& dialog) {
@@ -118,7 +119,21 @@ std::vector<std::string> ConversionRun::LoadLines(std::string_view loadCase,
   return DataLines(LoadBlock(loadCase, command));
 }
 
+namespace {
+
+/// Leaves the input in the folder that the environment names, for other builds to be compared with.
+void KeepInput(const std::string& bytes) {
+  const char* const folder = std::getenv("S2K2NGT_KEEP_INPUTS");
+  if (folder != nullptr) {
+    static int count = 0;
+    WriteFile(folder + ("/run" + std::to_string(++count)) + ".s2k", bytes);
+  }
+}
+
+}  // namespace
+
 ConversionRun ConvertBytes(const std::string& bytes) {
+  KeepInput(bytes);
   const TemporaryFolder folder;
   const std::string path = folder.FileName("model.s2k");
   WriteFile(path, bytes);

@@ -1,5 +1,7 @@
 #include "platform/terminal/terminal_platform.h"
 
+#include "common/files.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -36,7 +38,7 @@ std::optional<std::string> TerminalPlatform::ChooseFile(const FileDialog& /*dial
       return std::nullopt;
     }
     std::error_code error;
-    if (std::filesystem::is_regular_file(path, error)) {
+    if (std::filesystem::is_regular_file(NativePath(path), error)) {
       return path;
     }
     std::cerr << "There is no file " << path << '\n';

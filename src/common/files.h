@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+namespace s2k2ngt {
+
+// Paths at our interfaces are bytes: UTF-8 on Windows, whatever the user's code page, and on other
+// systems what their files are called.
+
+std::filesystem::path NativePath(const std::string& path);
+
+/// What fopen does, for a path in any script. `mode` is plain ASCII.
+std::FILE* OpenFile(const std::string& path, const char* mode);
+
+}  // namespace s2k2ngt

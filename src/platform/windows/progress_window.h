@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include <windows.h>
+
+namespace s2k2ngt {
+
+/// The modeless progress window of a run: a bar, a status text and a stop button. There is no
+/// thread behind it: AskStop lets the windows of the run's thread live.
+class ProgressWindow {
+ public:
+  /// Opens it below the host's window.
+  ProgressWindow();
+  ~ProgressWindow();
+  ProgressWindow(const ProgressWindow&) = delete;
+  ProgressWindow& operator=(const ProgressWindow&) = delete;
+
+  void SetStatus(const std::string& text);
+  /// The bar takes ranges of 16 bits.
+  void SetRange(int high);
+  void SetPosition(int position);
+
+  /// Handles the messages that wait, of all windows of the thread. True once the stop button or
+  /// Escape has been pressed.
+  bool AskStop();
+
+  HWND Window() const { return m_Window; }
+
+ private:
+  static INT_PTR CALLBACK Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void PumpMessages();
+
+  HWND m_Window = nullptr;
+  bool m_bStop = false;
+};
+
+}  // namespace s2k2ngt
