@@ -44,6 +44,7 @@ int Run(std::vector<std::string> words) {
        {"version", no_argument, nullptr, Version},
        {nullptr, 0, nullptr, 0}}};
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) {
     arguments.push_back(word.data());
   }
