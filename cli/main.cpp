@@ -33,7 +33,7 @@ Exit status: 0 all files converted, 1 a run was stopped, 2 at least one file
 failed, 64 wrong usage.
 )";
 
-int Run(std::vector<std::string> words) {
+int Run(std::vector<std::string> words, const Console& console) {
   enum Option : int { Json = 1, Quiet, NoProgress, ListAllMessages, Help, Version };
   constexpr std::array<option, 7> kOptions = {
       {{"json", no_argument, nullptr, Json},
@@ -51,6 +51,7 @@ int Run(std::vector<std::string> words) {
   const int count = static_cast<int>(arguments.size());
   arguments.push_back(nullptr);
   CommandOptions options;
+  options.NoProgress = !console.CanDraw();
   for (;;) {
     const int option = getopt_long(count, arguments.data(), "", kOptions.data(), nullptr);
     if (option == -1) {
@@ -91,8 +92,8 @@ int Run(std::vector<std::string> words) {
 
 int main(int argc, char** argv) {
   try {
-    KeepLineEndsOfOutput();
-    return Run(CommandLineWords(argc, argv));
+    const Console console;
+    return Run(CommandLineWords(argc, argv), console);
   } catch (const std::exception& exception) {
     std::cerr << "s2k2ngt: " << exception.what() << '\n';
     return kOneFailed;

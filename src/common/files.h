@@ -6,8 +6,8 @@
 
 namespace s2k2ngt {
 
-// Paths at our interfaces are bytes: UTF-8 on Windows, whatever the user's code page, and on other
-// systems what their files are called.
+// Paths at our interfaces are bytes: on Windows UTF-8, or of the user's code page where they are
+// not, and on other systems what their files are called.
 
 std::filesystem::path NativePath(const std::string& path);
 

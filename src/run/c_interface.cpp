@@ -79,16 +79,20 @@ int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char
     TellFailure(host, "the buffer for the path of the output is too small");
     return kFailed;
   }
-  CConverter converter(platform);
   int result = kFailed;
-  try {
-    result = converter.Run(path);
-  } catch (const std::exception&) {
-    TellFailure(host, converter.Failure().Describe(path).c_str());
-    return kFailed;
+  std::string reason;
+  {
+    // It goes before the host is told, and its progress window with it.
+    CConverter converter(platform);
+    try {
+      result = converter.Run(path);
+    } catch (const std::exception&) {
+      result = kFailed;
+    }
+    reason = converter.Failure().Describe(path);
   }
   if (result == kFailed) {
-    TellFailure(host, converter.Failure().Describe(path).c_str());
+    TellFailure(host, reason.c_str());
   } else if (result == kConverted && outputSize > 0) {
     std::memcpy(output, outputPath.c_str(), outputPath.size() + 1);
   }

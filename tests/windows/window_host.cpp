@@ -11,8 +11,12 @@
 #include <s2k2ngt/s2k2ngt.h>
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <fcntl.h>
 #include <io.h>
@@ -59,17 +63,55 @@ BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {
   return TRUE;
 }
 
-/// What the process holds: windows of this thread, modules, handles.
+/// True for a key of the registry. Wine's file dialog keeps one for each file that is chosen.
+bool IsRegistryKey(HANDLE handle) {
+  using QueryObject = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
+  struct TypeInformation {
+    USHORT Bytes;
+    USHORT Room;
+    const wchar_t* Name;
+    std::array<std::byte, 512> Further;
+  } type{};
+  const auto query = reinterpret_cast<QueryObject>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryObject")));
+  constexpr int kTypeInformation = 2;
+  return query(handle, kTypeInformation, &type, sizeof type, nullptr) == 0 &&
+         std::wstring_view(type.Name, type.Bytes / sizeof(wchar_t)) == L"Key";
+}
+
+/// The open handles. Wine does not tell their number, so each that may be is looked at.
+int CountHandles() {
+  int count = 0;
+  for (std::uintptr_t number = 4; number < 0x10000; number += 4) {
+    const auto handle = reinterpret_cast<HANDLE>(number);
+    DWORD flags = 0;
+    count += GetHandleInformation(handle, &flags) != 0 && !IsRegistryKey(handle) ? 1 : 0;
+  }
+  return count;
+}
+
+/// The slots of thread-local storage that are left.
+int CountFreeSlots() {
+  std::vector<DWORD> slots;
+  for (DWORD slot = TlsAlloc(); slot != TLS_OUT_OF_INDEXES; slot = TlsAlloc()) {
+    slots.push_back(slot);
+  }
+  for (const DWORD slot : slots) {
+    TlsFree(slot);
+  }
+  return static_cast<int>(slots.size());
+}
+
+/// What the process holds: windows of this thread, modules, handles, slots that are left.
 std::string Holdings() {
   int windows = 0;
   EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&windows));
   std::array<HMODULE, 1024> modules{};
   DWORD bytes = 0;
   EnumProcessModules(GetCurrentProcess(), modules.data(), sizeof modules, &bytes);
-  DWORD handles = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &handles);
   return std::to_string(windows) + " windows " + std::to_string(bytes / sizeof(HMODULE)) +
-         " modules " + std::to_string(handles) + " handles";
+         " modules " + std::to_string(CountHandles()) + " handles " +
+         std::to_string(CountFreeSlots()) + " slots";
 }
 
 HWND OpenHostWindow() {
@@ -139,6 +181,10 @@ int wmain(int count, wchar_t** words) {
     return 64;
   }
   _setmode(_fileno(stdout), _O_BINARY);
+  // As in a host that has windows, the system's own libraries stay when ours goes; loading them
+  // again and again costs handles of theirs.
+  LoadLibraryW(L"comctl32.dll");
+  LoadLibraryW(L"comdlg32.dll");
   const std::string action = Utf8(words[1]);
   const int rounds = _wtoi(words[2]);
   const std::string file = count > 3 ? Utf8(words[3]) : std::string();

@@ -3,28 +3,22 @@
 namespace s2k2ngt {
 namespace {
 
-struct Search {
-  HWND Ours = nullptr;
-  HWND Found = nullptr;
-};
-
-BOOL CALLBACK Visit(HWND window, LPARAM state) {
-  auto& search = *reinterpret_cast<Search*>(state);
-  const bool standsByItself =
-      IsWindowVisible(window) != 0 && GetWindow(window, GW_OWNER) == nullptr;
-  if (window == search.Ours || !standsByItself) {
+BOOL CALLBACK TakeFirst(HWND window, LPARAM found) {
+  if (IsWindowVisible(window) == 0 || GetWindow(window, GW_OWNER) != nullptr) {
     return TRUE;
   }
-  search.Found = window;
+  *reinterpret_cast<HWND*>(found) = window;
   return FALSE;
 }
 
 }  // namespace
 
-HWND HostWindow(HWND ours) {
-  Search search{ours};
-  EnumThreadWindows(GetCurrentThreadId(), Visit, reinterpret_cast<LPARAM>(&search));
-  return search.Found;
+HWND HostWindow() {
+  HWND window = GetActiveWindow();
+  if (window == nullptr) {
+    EnumThreadWindows(GetCurrentThreadId(), TakeFirst, reinterpret_cast<LPARAM>(&window));
+  }
+  return window;
 }
 
 }  // namespace s2k2ngt

@@ -4,8 +4,9 @@
 
 namespace s2k2ngt {
 
-/// The host's main window: the first visible one of this thread that no other owns and that is not
-/// `ours`; null when there is none.
-HWND HostWindow(HWND ours);
+/// The window of the host that its user works in: the active one of this thread, as a dialog from
+/// which we are called, or else its first visible one that stands by itself. Null when the thread
+/// has none.
+HWND HostWindow();
 
 }  // namespace s2k2ngt

@@ -1,6 +1,5 @@
 #include "platform/windows/progress_window.h"
 
-#include "platform/windows/host_window.h"
 #include "platform/windows/module.h"
 #include "platform/windows/placement.h"
 #include "platform/windows/resource.h"
@@ -17,37 +16,51 @@ ScreenArea AreaOf(HWND window) {
   return {area.left, area.top, area.right, area.bottom};
 }
 
-/// Moves the window below the host's; without a host it stays where it is.
-void Place(HWND window) {
-  const HWND host = HostWindow(window);
-  if (host == nullptr) {
+/// Moves the window below the host's main window; without one that is on the screen it stays where
+/// it is.
+void Place(HWND window, HWND host) {
+  const HWND root = host == nullptr ? nullptr : GetAncestor(host, GA_ROOTOWNER);
+  const HWND main = IsWindowVisible(root) != 0 ? root : host;
+  if (main == nullptr || IsIconic(main) != 0) {
     return;
   }
   const ScreenArea place =
-      PlaceBelow(AreaOf(host), AreaOf(window), GetSystemMetrics(SM_CXFULLSCREEN),
+      PlaceBelow(AreaOf(main), AreaOf(window), GetSystemMetrics(SM_CXFULLSCREEN),
                  GetSystemMetrics(SM_CYFULLSCREEN) + GetSystemMetrics(SM_CYCAPTION));
   MoveWindow(window, place.Left, place.Top, place.Width(), place.Height(), TRUE);
 }
 
+/// True when Escape has been pressed since this was asked last.
+bool EscapeWasPressed() {
+  constexpr auto kSinceLastAsked = 1;
+  return (GetAsyncKeyState(VK_ESCAPE) & kSinceLastAsked) != 0;
+}
+
 }  // namespace
 
-ProgressWindow::ProgressWindow() {
+ProgressWindow::ProgressWindow(HWND host) {
   INITCOMMONCONTROLSEX controls = {};
   controls.dwSize = sizeof controls;
   controls.dwICC = ICC_PROGRESS_CLASS;
   InitCommonControlsEx(&controls);
   m_Window = CreateDialogParamW(OwnModule(), MAKEINTRESOURCEW(IDD_PROGRESS_WINDOW), nullptr, Handle,
                                 reinterpret_cast<LPARAM>(this));
+  Place(m_Window, host);
   ShowWindow(m_Window, SW_SHOWNORMAL);
   UpdateWindow(m_Window);
+  EscapeWasPressed();  // before this run, which is no wish to stop it
 }
 
-ProgressWindow::~ProgressWindow() { DestroyWindow(m_Window); }
+ProgressWindow::~ProgressWindow() {
+  DestroyWindow(m_Window);
+  if (m_QuitCode) {
+    PostQuitMessage(*m_QuitCode);
+  }
+}
 
 INT_PTR CALLBACK ProgressWindow::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_INITDIALOG) {
     SetWindowLongPtrW(window, DWLP_USER, lParam);
-    Place(window);
     return TRUE;
   }
   if (message == WM_COMMAND && LOWORD(wParam) == IDC_STOP && HIWORD(wParam) == BN_CLICKED) {
@@ -72,19 +85,15 @@ void ProgressWindow::SetPosition(int position) {
 
 bool ProgressWindow::AskStop() {
   PumpMessages();
-  constexpr auto kPressedSinceLastAsked = 1;
-  return (GetAsyncKeyState(VK_ESCAPE) & kPressedSinceLastAsked) != 0 || m_bStop;
+  return EscapeWasPressed() || m_bStop;
 }
 
 void ProgressWindow::PumpMessages() {
   MSG message = {};
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
     if (message.message == WM_QUIT) {
-      // It is the host's: its own loop must see it.
-      PostQuitMessage(static_cast<int>(message.wParam));
-      return;
-    }
-    if (IsDialogMessageW(m_Window, &message) == 0) {
+      m_QuitCode = static_cast<int>(message.wParam);
+    } else if (IsDialogMessageW(m_Window, &message) == 0) {
       TranslateMessage(&message);
       DispatchMessageW(&message);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <windows.h>
@@ -10,8 +11,8 @@ namespace s2k2ngt {
 /// thread behind it: AskStop lets the windows of the run's thread live.
 class ProgressWindow {
  public:
-  /// Opens it below the host's window.
-  ProgressWindow();
+  /// Opens it below the host's main window; `host` is a window of it, or null.
+  explicit ProgressWindow(HWND host);
   ~ProgressWindow();
   ProgressWindow(const ProgressWindow&) = delete;
   ProgressWindow& operator=(const ProgressWindow&) = delete;
@@ -25,14 +26,14 @@ class ProgressWindow {
   /// Escape has been pressed.
   bool AskStop();
 
-  HWND Window() const { return m_Window; }
-
  private:
   static INT_PTR CALLBACK Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void PumpMessages();
 
   HWND m_Window = nullptr;
   bool m_bStop = false;
+  /// The exit code of a WM_QUIT that came meanwhile: it is the host's, and goes back in the end.
+  std::optional<int> m_QuitCode;
 };
 
 }  // namespace s2k2ngt

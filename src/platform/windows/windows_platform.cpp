@@ -12,6 +12,8 @@
 
 namespace s2k2ngt {
 
+WindowsPlatform::WindowsPlatform() : m_Host(HostWindow()) {}
+
 std::optional<std::string> WindowsPlatform::ChooseFile(const FileDialog& dialog) {
   constexpr std::size_t kLongestPath = 32'768;
   std::wstring filter = Wide(dialog.Filter);
@@ -20,7 +22,7 @@ std::optional<std::string> WindowsPlatform::ChooseFile(const FileDialog& dialog)
   std::wstring path(kLongestPath, L'\0');
   OPENFILENAMEW options = {};
   options.lStructSize = sizeof options;
-  options.hwndOwner = HostWindow(nullptr);
+  options.hwndOwner = m_Host;
   options.lpstrFilter = filter.c_str();
   options.lpstrFile = path.data();
   options.nMaxFile = static_cast<DWORD>(path.size());
@@ -34,12 +36,10 @@ std::optional<std::string> WindowsPlatform::ChooseFile(const FileDialog& dialog)
 }
 
 void WindowsPlatform::ShowMessage(const std::string& /*key*/, const std::string& text) {
-  // Of the host's window and not of ours, so that the stop button can be pressed meanwhile.
-  const HWND owner = HostWindow(m_Progress ? m_Progress->Window() : nullptr);
-  MessageBoxW(owner, Wide(text).c_str(), L"s2k2ngt", MB_OK | MB_ICONEXCLAMATION);
+  MessageBoxW(m_Host, Wide(text).c_str(), L"s2k2ngt", MB_OK | MB_ICONEXCLAMATION);
 }
 
-void WindowsPlatform::OpenProgress() { m_Progress.emplace(); }
+void WindowsPlatform::OpenProgress() { m_Progress.emplace(m_Host); }
 void WindowsPlatform::CloseProgress() { m_Progress.reset(); }
 void WindowsPlatform::SetStatus(const std::string& text) { m_Progress->SetStatus(text); }
 void WindowsPlatform::SetRange(int high) { m_Progress->SetRange(high); }
