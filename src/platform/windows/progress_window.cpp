@@ -80,12 +80,21 @@ void ProgressWindow::SetRange(int high) {
 }
 
 void ProgressWindow::SetPosition(int position) {
-  SendDlgItemMessageW(m_Window, IDC_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(position), 0);
+  if (m_MovesBar) {
+    SendDlgItemMessageW(m_Window, IDC_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(position), 0);
+  }
 }
 
 bool ProgressWindow::AskStop() {
-  PumpMessages();
-  return EscapeWasPressed() || m_bStop;
+  constexpr ULONGLONG kBetweenLooks = 10;
+  const ULONGLONG now = GetTickCount64();
+  m_MovesBar = now - m_LookedAt >= kBetweenLooks;
+  if (m_MovesBar) {
+    m_LookedAt = now;
+    PumpMessages();
+    m_bStop = EscapeWasPressed() || m_bStop;
+  }
+  return m_bStop;
 }
 
 void ProgressWindow::PumpMessages() {

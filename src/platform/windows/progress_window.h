@@ -23,7 +23,8 @@ class ProgressWindow {
   void SetPosition(int position);
 
   /// Handles the messages that wait, of all windows of the thread. True once the stop button or
-  /// Escape has been pressed.
+  /// Escape has been pressed. Asked for every row of a file, it looks a hundred times a second at
+  /// most, and so does the bar move: more would take longer than the conversion.
   bool AskStop();
 
  private:
@@ -32,6 +33,8 @@ class ProgressWindow {
 
   HWND m_Window = nullptr;
   bool m_bStop = false;
+  ULONGLONG m_LookedAt = 0;  // milliseconds
+  bool m_MovesBar = true;
   /// The exit code of a WM_QUIT that came meanwhile: it is the host's, and goes back in the end.
   std::optional<int> m_QuitCode;
 };
