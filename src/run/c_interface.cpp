@@ -99,11 +99,14 @@ int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char
   return result;
 }
 
-/// Runs `convert`, which takes the host that is known of. Nothing that it throws gets out.
+bool IsBuffer(const char* output, std::size_t size) { return output != nullptr || size == 0; }
+
+/// Runs `convert`, which takes the host that is known of, if the call is complete. Nothing that it
+/// throws gets out.
 template <class Function>
-int Guard(const s2k2ngt_host* host, const char* output, std::size_t outputSize, Function convert) {
+int Guard(const s2k2ngt_host* host, bool isComplete, Function convert) {
   const s2k2ngt_host known = KnownPartOf(host);
-  if (output == nullptr && outputSize > 0) {
+  if (!isComplete) {
     TellFailure(known, "a path or buffer is missing");
     return kFailed;
   }
@@ -119,18 +122,16 @@ int Guard(const s2k2ngt_host* host, const char* output, std::size_t outputSize, 
 }  // namespace s2k2ngt
 
 int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output, size_t output_size) {
-  return s2k2ngt::Guard(host, output, output_size, [&](const s2k2ngt_host& known) {
-    if (path == nullptr) {
-      s2k2ngt::TellFailure(known, "a path or buffer is missing");
-      return S2K2NGT_FAILED;
-    }
+  const bool isComplete = path != nullptr && s2k2ngt::IsBuffer(output, output_size);
+  return s2k2ngt::Guard(host, isComplete, [&](const s2k2ngt_host& known) {
     s2k2ngt::CallBackPlatform platform(known);
     return s2k2ngt::Convert(path, platform, known, output, output_size);
   });
 }
 
 int s2k2ngt_convert_chosen(const s2k2ngt_host* host, char* output, size_t output_size) {
-  return s2k2ngt::Guard(host, output, output_size, [&](const s2k2ngt_host& known) {
+  const bool isComplete = s2k2ngt::IsBuffer(output, output_size);
+  return s2k2ngt::Guard(host, isComplete, [&](const s2k2ngt_host& known) {
     const auto platform = s2k2ngt::MakeDefaultPlatform();
     const auto path = s2k2ngt::ChooseSourceFile(*platform);
     return path ? s2k2ngt::Convert(path->c_str(), *platform, known, output, output_size)

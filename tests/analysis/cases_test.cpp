@@ -272,7 +272,7 @@ TEST(AnalysisControl, StandsOnceForSeveralCasesThatNeedIt) {
 TEST(AnalysisControl, ControlsStandInTheOrderOfTheOutput) {
   const ConversionRun run =
       ConvertAnalyses({"Case=BUCK   Type=LinBuckling", "Case=MODAL   Type=LinModal",
-                       "Case=SPEC   Type=LinRespSpec   ModalCase=MODAL"},
+                       "Case=QUAKE   Type=LinRespSpec   ModalCase=MODAL"},
                       R"(
 TABLE:  "MASSES 1 - MASS SOURCE"
    MassFrom=Loads   LoadCase=DEAD   Multiplier=1
@@ -281,7 +281,7 @@ TABLE:  "CASE - MODAL 1 - GENERAL"
    Case=MODAL   ModeType=Eigen   MaxNumModes=12   MinNumModes=1   EigenTol=1E-09
 
 TABLE:  "CASE - RESPONSE SPECTRUM 1 - GENERAL"
-   Case=SPEC   ModalCombo=CQC   ConstDamp=0.05
+   Case=QUAKE   ModalCombo=CQC   ConstDamp=0.05
 
 TABLE:  "CASE - BUCKLING 1 - GENERAL"
    Case=BUCK   NumBuckMode=6   EigenTol=1E-09

@@ -1,4 +1,5 @@
 #include "support/conversion_run.h"
+#include "support/time_histories.h"
 
 #include <string>
 #include <string_view>
@@ -44,17 +45,6 @@ const std::string kLinearAndModal = Analyses(
     "   Case=WIND   Type=LinModHist   InitialCond=Zero\n");
 const std::string kModal =
     SourceTable("CASE - MODAL HISTORY 1 - GENERAL", "   Case=WIND   DampingType=Constant\n");
-
-/// The data lines of *THLDCASE, of a model without loads behind it.
-std::vector<std::string> HistoryLines(const ConversionRun& run) {
-  return run.LinesBetween("*THLDCASE", "*ENDDATA");
-}
-
-/// Line `number` of a model's *THLDCASE, from 1.
-std::string HistoryLine(const ConversionRun& run, std::size_t number) {
-  const std::vector<std::string> lines = HistoryLines(run);
-  return number <= lines.size() ? lines[number - 1] : "(no such line)";
-}
 
 TEST(DirectHistory, LinearCaseWritesTheWholeSection) {
   const ConversionRun run = Convert(kLinear + kDefinition + kDamping + kMethod);

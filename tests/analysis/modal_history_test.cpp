@@ -1,4 +1,5 @@
 #include "support/conversion_run.h"
+#include "support/time_histories.h"
 
 #include <string>
 #include <string_view>
@@ -43,17 +44,6 @@ const std::string kLinearAndAnother = Analyses(
     "   Case=QUAKE   Type=LinModHist   InitialCond=Zero\n"
     "   Case=WIND   Type=LinModHist   InitialCond=Zero\n");
 const std::string kAnother = "   Case=WIND   DampingType=Constant\n";
-
-/// The data lines of *THLDCASE, of a model without loads behind it.
-std::vector<std::string> HistoryLines(const ConversionRun& run) {
-  return run.LinesBetween("*THLDCASE", "*ENDDATA");
-}
-
-/// Line `number` of a model's *THLDCASE, from 1.
-std::string HistoryLine(const ConversionRun& run, std::size_t number) {
-  const std::vector<std::string> lines = HistoryLines(run);
-  return number <= lines.size() ? lines[number - 1] : "(no such line)";
-}
 
 TEST(ModalHistory, LinearCaseWritesTheWholeSection) {
   const ConversionRun run = Convert(kLinear + kConstant);

@@ -1,7 +1,22 @@
 #pragma once
 
+#include "support/conversion_run.h"
+
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
+
+/// The data lines of *THLDCASE, of a model without loads behind it.
+inline std::vector<std::string> HistoryLines(const ConversionRun& run) {
+  return run.LinesBetween("*THLDCASE", "*ENDDATA");
+}
+
+/// Line `number` of a model's *THLDCASE, from 1.
+inline std::string HistoryLine(const ConversionRun& run, std::size_t number) {
+  const std::vector<std::string> lines = HistoryLines(run);
+  return number <= lines.size() ? lines[number - 1] : "(no such line)";
+}
 
 /// Modal history cases TH1, TH2 and TH3 and direct ones BLAST and SHOCK, in metres, with these
 /// analysis cases, modal load rows and direct load rows. The function PULSE has its points, and

@@ -5,6 +5,9 @@
 #include "platform/windows/resource.h"
 #include "platform/windows/wide.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include <commctrl.h>
 
 namespace s2k2ngt {
@@ -76,25 +79,25 @@ void ProgressWindow::SetStatus(const std::string& text) {
 }
 
 void ProgressWindow::SetRange(int high) {
+  m_Range = high;
+  m_ShownParts = 0;
   SendDlgItemMessageW(m_Window, IDC_PROGRESS, PBM_SETRANGE, 0, MAKELPARAM(0, high));
+  SendDlgItemMessageW(m_Window, IDC_PROGRESS, PBM_SETPOS, 0, 0);
 }
 
 void ProgressWindow::SetPosition(int position) {
-  if (m_MovesBar) {
-    SendDlgItemMessageW(m_Window, IDC_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(position), 0);
+  constexpr std::int64_t kParts = 4096;  // more than a bar has pixels
+  const int shown = std::clamp(position, 0, m_Range);
+  const auto parts = static_cast<int>(shown * kParts / std::max(m_Range, 1));
+  if (parts != m_ShownParts) {
+    m_ShownParts = parts;
+    SendDlgItemMessageW(m_Window, IDC_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(shown), 0);
   }
 }
 
 bool ProgressWindow::AskStop() {
-  constexpr ULONGLONG kBetweenLooks = 10;
-  const ULONGLONG now = GetTickCount64();
-  m_MovesBar = now - m_LookedAt >= kBetweenLooks;
-  if (m_MovesBar) {
-    m_LookedAt = now;
-    PumpMessages();
-    m_bStop = EscapeWasPressed() || m_bStop;
-  }
-  return m_bStop;
+  PumpMessages();
+  return EscapeWasPressed() || m_bStop;
 }
 
 void ProgressWindow::PumpMessages() {

@@ -18,13 +18,12 @@ class ProgressWindow {
   ProgressWindow& operator=(const ProgressWindow&) = delete;
 
   void SetStatus(const std::string& text);
-  /// The bar takes ranges of 16 bits.
+  /// The bar takes ranges of 16 bits. It begins anew with each.
   void SetRange(int high);
   void SetPosition(int position);
 
   /// Handles the messages that wait, of all windows of the thread. True once the stop button or
-  /// Escape has been pressed. Asked for every row of a file, it looks a hundred times a second at
-  /// most, and so does the bar move: more would take longer than the conversion.
+  /// Escape has been pressed.
   bool AskStop();
 
  private:
@@ -33,8 +32,9 @@ class ProgressWindow {
 
   HWND m_Window = nullptr;
   bool m_bStop = false;
-  ULONGLONG m_LookedAt = 0;  // milliseconds
-  bool m_MovesBar = true;
+  // What the bar shows, so that it is drawn when it moves and not for every row of a file.
+  int m_Range = 0;
+  int m_ShownParts = 0;
   /// The exit code of a WM_QUIT that came meanwhile: it is the host's, and goes back in the end.
   std::optional<int> m_QuitCode;
 };
