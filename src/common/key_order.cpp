@@ -1,6 +1,7 @@
 #include "common/key_order.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace s2k2ngt {
 
@@ -17,6 +18,15 @@ void KeyOrder::Append(std::uint32_t key) {
   }
   m_Keys.push_back(key);
   SetSlot(key, slot);
+}
+
+std::vector<std::uint32_t> KeyOrder::SlotsByKey() const {
+  std::vector<std::uint32_t> slots(m_Count);
+  std::iota(slots.begin(), slots.end(), 0U);
+  if (!CameInOrder()) {
+    std::ranges::sort(slots, {}, [this](std::uint32_t slot) { return m_Keys[slot]; });
+  }
+  return slots;
 }
 
 std::uint32_t KeyOrder::SlotOfAnyKey(std::uint32_t key) const {

@@ -50,6 +50,9 @@ class KeyOrder {
   /// True while the keys came as 1, 2, 3, ...
   bool CameInOrder() const { return m_Keys.empty(); }
 
+  /// The slots by ascending keys.
+  std::vector<std::uint32_t> SlotsByKey() const;
+
   /// The slots in the order of a walk; computed when first asked for after a change.
   const std::vector<std::uint32_t>& Walk() const {
     if (m_Walk.size() != m_Count) {

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "common/key_order.h"
+#include "common/number_hash.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <numeric>
 #include <optional>
 #include <span>
 #include <type_traits>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -37,6 +37,9 @@ class CKeyedTable {
   };
 
   explicit CKeyedTable(std::uint32_t bucketCount = kInitialBuckets) : m_Keys(bucketCount) {}
+
+  /// Makes room for `count` records in all.
+  void Reserve(std::size_t count) { m_Records.reserve(count); }
 
   /// Stores `record` under `key`.
   void Insert(std::uint32_t key, Record record) {
@@ -73,42 +76,43 @@ class CKeyedTable {
   /// All records, for questions whose answer does not depend on an order.
   std::span<const Record> Records() const { return m_Records; }
 
-  class WalkIterator {
+  /// Entries one after the other; `At` gives that of a position.
+  template <Entry (CKeyedTable::*At)(std::size_t) const>
+  class Range {
    public:
-    WalkIterator(const CKeyedTable& table, std::size_t position)
-        : m_Table(&table), m_Position(position) {}
-    Entry operator*() const { return m_Table->AtWalk(m_Position); }
-    WalkIterator& operator++() {
-      ++m_Position;
-      return *this;
-    }
-    bool operator==(const WalkIterator& other) const = default;
-    std::size_t Position() const { return m_Position; }
+    class Iterator {
+     public:
+      Iterator(const CKeyedTable& table, std::size_t position)
+          : m_Table(&table), m_Position(position) {}
+      Entry operator*() const { return (m_Table->*At)(m_Position); }
+      Iterator& operator++() {
+        ++m_Position;
+        return *this;
+      }
+      bool operator==(const Iterator& other) const = default;
+
+     private:
+      const CKeyedTable* m_Table;
+      std::size_t m_Position;
+    };
+
+    explicit Range(const CKeyedTable& table) : m_Table(table) {}
+    Iterator begin() const { return {m_Table, 0}; }
+    Iterator end() const { return {m_Table, m_Table.Count()}; }
 
    private:
-    const CKeyedTable* m_Table;
-    std::size_t m_Position;
-  };
-
-  struct WalkRange {
-    WalkIterator First;
-    WalkIterator Last;
-    std::size_t Size() const { return Last.Position() - First.Position(); }
-    WalkIterator begin() const { return First; }
-    WalkIterator end() const { return Last; }
+    const CKeyedTable& m_Table;
   };
 
   /// All entries, in walk order.
-  WalkRange Walk() const {
-    return {WalkIterator(*this, 0), WalkIterator(*this, m_Keys.Walk().size())};
-  }
+  auto Walk() const { return Range<&CKeyedTable::AtWalk>(*this); }
 
-  /// The entry that a walk reaches at `position`, from 0. Only for positions that Walk or AllWith
-  /// gave since the last Insert.
-  Entry AtWalk(std::size_t position) const {
-    const std::uint32_t slot = m_Keys.Walk()[position];
-    return {m_Keys.KeyOf(slot), m_Records[slot]};
-  }
+  /// All entries in the order of their first insertion, which is the quickest: for what does not
+  /// depend on an order.
+  auto Entries() const { return Range<&CKeyedTable::AtSlot>(*this); }
+
+  /// The entry that a walk reaches at `position`, from 0 and below the count of records.
+  Entry AtWalk(std::size_t position) const { return AtSlot(m_Keys.Walk()[position]); }
 
   /// The last entry of a walk; nothing when the table is empty.
   std::optional<Entry> LastWalked() const {
@@ -120,12 +124,11 @@ class CKeyedTable {
   /// The first entry in walk order whose `Field` equals `value`.
   template <auto Field, class Value>
   std::optional<Entry> FirstWith(const Value& value) const {
-    const auto& index = IndexOf<FirstIndex<Field>>();
-    const auto found = index.Slots.find(FieldValue<Field>(value));
-    if (found == index.Slots.end()) {
+    if (Empty()) {
       return std::nullopt;
     }
-    return Entry{m_Keys.KeyOf(found->second), m_Records[found->second]};
+    const std::uint32_t slot = IndexOf<FirstIndex<Field>>().Find(*this, value);
+    return slot == KeyOrder::kNoSlot ? std::nullopt : std::optional(AtSlot(slot));
   }
 
   /// The same; without such an entry the last of the walk, where a search from its beginning would
@@ -140,85 +143,141 @@ class CKeyedTable {
   /// next Insert; so also the keys.
   template <auto Field, class Value>
   std::span<const std::uint32_t> AllWith(const Value& value) const {
-    return IndexOf<WalkGroupIndex<Field>>().Of(value);
+    return IndexOf<WalkGroupIndex<Field>>().Find(*this, value);
   }
 
   /// The keys, ascending, of all entries whose `Field` equals `value`.
   template <auto Field, class Value>
   std::span<const std::uint32_t> KeysWith(const Value& value) const {
-    return IndexOf<KeyGroupIndex<Field>>().Of(value);
+    return IndexOf<KeyGroupIndex<Field>>().Find(*this, value);
   }
 
  private:
   template <auto Field>
   using FieldValue = std::remove_cvref_t<std::invoke_result_t<decltype(Field), const Record&>>;
 
+  template <auto Field>
+  static std::size_t HashOf(const FieldValue<Field>& value) {
+    return std::hash<FieldValue<Field>>()(value);
+  }
+
   struct Index {
     virtual ~Index() = default;
-    Index() = default;
+    explicit Index(const void* kind) : Kind(kind) {}
     Index(const Index&) = delete;
     Index& operator=(const Index&) = delete;
-    virtual void BringUpToDate(const CKeyedTable& table) = 0;
+
+    const void* Kind;
+    std::size_t Indexed = 0;
+    std::uint64_t Replacements = 0;
   };
 
   /// Slot of the first entry in walk order by the value of a field. New entries are taken in one by
   /// one, so that a table may be searched and added to in turn.
   template <auto Field>
   struct FirstIndex final : Index {
-    void BringUpToDate(const CKeyedTable& table) override {
-      if (Replacements != table.m_Replacements) {
-        Slots.clear();
-        Indexed = 0;
-        Replacements = table.m_Replacements;
+    using Index::Index;
+
+    void BringUpToDate(const CKeyedTable& table) {
+      if (this->Replacements != table.m_Replacements) {
+        Slots.Clear();
+        this->Indexed = 0;
+        this->Replacements = table.m_Replacements;
       }
-      for (; Indexed < table.Count(); ++Indexed) {
-        const auto slot = static_cast<std::uint32_t>(Indexed);
-        const auto [place, isNew] =
-            Slots.try_emplace(std::invoke(Field, table.m_Records[slot]), slot);
-        if (!isNew && table.m_Keys.BucketOfSlot(slot) <= table.m_Keys.BucketOfSlot(place->second)) {
-          place->second = slot;
+      if (this->Indexed == 0) {
+        Slots.Reserve(table.Count());
+      }
+      for (; this->Indexed < table.Count(); ++this->Indexed) {
+        const auto slot = static_cast<std::uint32_t>(this->Indexed);
+        const auto& value = std::invoke(Field, table.m_Records[slot]);
+        std::uint32_t& first =
+            Slots.FindOrAdd(HashOf<Field>(value), slot, [&](std::uint32_t known) {
+              return std::invoke(Field, table.m_Records[known]) == value;
+            });
+        if (first != slot && table.m_Keys.BucketOfSlot(slot) <= table.m_Keys.BucketOfSlot(first)) {
+          first = slot;
         }
       }
     }
 
-    std::unordered_map<FieldValue<Field>, std::uint32_t> Slots;
-    std::size_t Indexed = 0;
-    std::uint64_t Replacements = 0;
+    std::uint32_t Find(const CKeyedTable& table, const FieldValue<Field>& value) const {
+      return Slots.Find(HashOf<Field>(value), [&](std::uint32_t slot) {
+        return std::invoke(Field, table.m_Records[slot]) == value;
+      });
+    }
+
+    NumberHash Slots;
   };
 
   /// All entries by the value of a field, made anew after a change.
   template <auto Field>
   struct GroupIndex : Index {
-    void BringUpToDate(const CKeyedTable& table) override {
-      if (Indexed == table.Count() && Replacements == table.m_Replacements) {
-        return;
-      }
-      Groups.clear();
-      Fill(table);
-      Indexed = table.Count();
-      Replacements = table.m_Replacements;
-    }
-    virtual void Fill(const CKeyedTable& table) = 0;
+    using Index::Index;
 
-    std::span<const std::uint32_t> Of(const FieldValue<Field>& value) const {
-      const auto found = Groups.find(value);
-      if (found == Groups.end()) {
+    /// Takes in all entries, the one at each position under the number that `number` gives it.
+    template <class At, class Number>
+    void Fill(const CKeyedTable& table, At at, Number number) {
+      const auto count = static_cast<std::uint32_t>(table.Count());
+      Groups.Clear();
+      Firsts.clear();
+      Begins.assign(1, 0);
+      std::vector<std::uint32_t> groupAt(count);
+      for (std::uint32_t position = 0; position < count; ++position) {
+        const std::uint32_t slot = at(position);
+        const auto& value = std::invoke(Field, table.m_Records[slot]);
+        const auto newGroup = static_cast<std::uint32_t>(Firsts.size());
+        const std::uint32_t group =
+            Groups.FindOrAdd(HashOf<Field>(value), newGroup, [&](std::uint32_t known) {
+              return std::invoke(Field, table.m_Records[Firsts[known]]) == value;
+            });
+        if (group == newGroup) {
+          Firsts.push_back(slot);
+          Begins.push_back(0);
+        }
+        groupAt[position] = group;
+        ++Begins[group + 1];
+      }
+      std::partial_sum(Begins.begin(), Begins.end(), Begins.begin());
+      std::vector<std::uint32_t> next(Begins.begin(), Begins.end() - 1);
+      Members.resize(count);
+      for (std::uint32_t position = 0; position < count; ++position) {
+        Members[next[groupAt[position]]++] = number(position);
+      }
+      this->Indexed = count;
+      this->Replacements = table.m_Replacements;
+    }
+
+    bool IsUpToDate(const CKeyedTable& table) const {
+      return this->Indexed == table.Count() && this->Replacements == table.m_Replacements;
+    }
+
+    std::span<const std::uint32_t> Find(const CKeyedTable& table,
+                                        const FieldValue<Field>& value) const {
+      const std::uint32_t group = Groups.Find(HashOf<Field>(value), [&](std::uint32_t known) {
+        return std::invoke(Field, table.m_Records[Firsts[known]]) == value;
+      });
+      if (group == NumberHash::kNone) {
         return {};
       }
-      return found->second;
+      return std::span(Members).subspan(Begins[group], Begins[group + 1] - Begins[group]);
     }
 
-    std::unordered_map<FieldValue<Field>, std::vector<std::uint32_t>> Groups;
-    std::size_t Indexed = 0;
-    std::uint64_t Replacements = 0;
+    NumberHash Groups;
+    std::vector<std::uint32_t> Firsts;   // a slot of each group
+    std::vector<std::uint32_t> Begins;   // of each group in Members, and the end of the last
+    std::vector<std::uint32_t> Members;  // one group behind the other
   };
 
   /// By their walk positions.
   template <auto Field>
   struct WalkGroupIndex final : GroupIndex<Field> {
-    void Fill(const CKeyedTable& table) override {
-      for (std::uint32_t position = 0; position < table.Count(); ++position) {
-        this->Groups[std::invoke(Field, table.AtWalk(position).Value)].push_back(position);
+    using GroupIndex<Field>::GroupIndex;
+
+    void BringUpToDate(const CKeyedTable& table) {
+      if (!this->IsUpToDate(table)) {
+        this->Fill(
+            table, [&](std::uint32_t position) { return table.m_Keys.Walk()[position]; },
+            [](std::uint32_t position) { return position; });
       }
     }
   };
@@ -226,30 +285,37 @@ class CKeyedTable {
   /// By their keys.
   template <auto Field>
   struct KeyGroupIndex final : GroupIndex<Field> {
-    void Fill(const CKeyedTable& table) override {
-      for (std::uint32_t slot = 0; slot < table.Count(); ++slot) {
-        this->Groups[std::invoke(Field, table.m_Records[slot])].push_back(table.m_Keys.KeyOf(slot));
-      }
-      if (table.m_Keys.CameInOrder()) {
-        return;
-      }
-      for (auto& [value, keys] : this->Groups) {
-        std::ranges::sort(keys);
+    using GroupIndex<Field>::GroupIndex;
+
+    void BringUpToDate(const CKeyedTable& table) {
+      if (!this->IsUpToDate(table)) {
+        const std::vector<std::uint32_t> slots = table.m_Keys.SlotsByKey();
+        this->Fill(
+            table, [&](std::uint32_t position) { return slots[position]; },
+            [&](std::uint32_t position) { return table.m_Keys.KeyOf(slots[position]); });
       }
     }
   };
 
   template <class WantedIndex>
   const WantedIndex& IndexOf() const {
+    static constexpr char kind = 0;  // its address tells the indexes apart
     for (const auto& index : m_Indexes) {
-      if (auto* wanted = dynamic_cast<WantedIndex*>(index.get())) {
-        wanted->BringUpToDate(*this);
-        return *wanted;
+      if (index->Kind == &kind) {
+        auto& wanted = static_cast<WantedIndex&>(*index);
+        wanted.BringUpToDate(*this);
+        return wanted;
       }
     }
-    m_Indexes.push_back(std::make_unique<WantedIndex>());
-    m_Indexes.back()->BringUpToDate(*this);
-    return static_cast<const WantedIndex&>(*m_Indexes.back());
+    auto index = std::make_unique<WantedIndex>(&kind);
+    index->BringUpToDate(*this);
+    const WantedIndex& wanted = *index;
+    m_Indexes.push_back(std::move(index));
+    return wanted;
+  }
+
+  Entry AtSlot(std::size_t slot) const {
+    return {m_Keys.KeyOf(static_cast<std::uint32_t>(slot)), m_Records[slot]};
   }
 
   std::vector<Record> m_Records;  // by slot, in the order of their first insertion

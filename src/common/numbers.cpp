@@ -80,6 +80,17 @@ double ParseReal(Text text) {
   return minus ? -value : value;
 }
 
+bool ParseWholeReal(Text text, double& value) {
+  const char* const last = text.data() + text.size();
+  double number = 0.0;
+  const auto [end, error] = std::from_chars(text.data(), last, number);
+  if (error != std::errc{} || end != last) {
+    return false;
+  }
+  value = number;
+  return true;
+}
+
 std::int32_t ParseInteger(Text text) {
   text = TrimLeft(text);
   const bool minus = TakeSign(text);

@@ -14,6 +14,10 @@ namespace s2k2ngt {
 /// (decimal, hexadecimal, "inf", "nan"), 0 when there is none. Too large gives an infinity.
 double ParseReal(Text text);
 
+/// Sets `value` to what ParseReal gives and returns true, if the text is a plain number from its
+/// first character to its last.
+bool ParseWholeReal(Text text, double& value);
+
 /// What C's atoi gives; a value beyond 32 bits becomes the nearest that fits.
 std::int32_t ParseInteger(Text text);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <memory_resource>
@@ -36,13 +37,28 @@ class TextStore {
 // The formats are those of a program that ran in the "C" locale: white space, digits and upper
 // case are those of ASCII, whatever the locale of the host process.
 
-bool IsSpace(char c);
+inline bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 /// True for the characters of "0123456789".
-bool IsDigitChar(char c);
+inline bool IsDigitChar(char c) { return c >= '0' && c <= '9'; }
 /// True when every character is a digit; so also for an empty text.
-bool IsAllDigits(Text text);
-Text TrimLeft(Text text);
-Text TrimRight(Text text);
+inline bool IsAllDigits(Text text) { return std::all_of(text.begin(), text.end(), IsDigitChar); }
+
+inline Text TrimLeft(Text text) {
+  std::size_t first = 0;
+  while (first < text.size() && IsSpace(text[first])) {
+    ++first;
+  }
+  return text.substr(first);
+}
+
+inline Text TrimRight(Text text) {
+  std::size_t size = text.size();
+  while (size > 0 && IsSpace(text[size - 1])) {
+    --size;
+  }
+  return text.substr(0, size);
+}
+
 std::string ToUpper(Text text);
 char ToLower(char c);
 

@@ -26,10 +26,11 @@ std::optional<Text> SectionNameOf(CModel& model, Text frame) {
 
 namespace {
 
-/// Section and material of a frame.
+/// Section and material of a frame, as far as they are found.
 struct FrameProperty {
-  std::int32_t iPRO = 0;
-  std::int32_t iMAT = 0;
+  static constexpr std::int32_t kNotFound = -1;
+  std::int32_t iPRO = kNotFound;
+  std::int32_t iMAT = kNotFound;
 };
 
 using MaterialByName = std::unordered_map<Text, std::optional<std::int32_t>>;
@@ -43,7 +44,7 @@ MaterialByName MaterialsOfNonprismatic(CModel& model) {
   MaterialByName materials;
   const auto& sections = model.Rows<T_FRSG_D>();
   const auto& segments = model.Rows<T_FSNP_D>();
-  for (std::size_t position = segments.Walk().Size(); position-- > 0;) {
+  for (std::size_t position = segments.Count(); position-- > 0;) {
     const T_FSNP_D& segment = segments.AtWalk(position).Value;
     std::optional<std::int32_t> material;
     if (const auto behind = materials.find(segment.StartSect); behind != materials.end()) {
@@ -64,26 +65,23 @@ class FramePropertyLookup {
   explicit FramePropertyLookup(CModel& model)
       : m_Model(model), m_NonprismaticMaterials(MaterialsOfNonprismatic(model)) {}
 
-  /// Sets what is found for the connectivity row of this key. Meant so: what is not found keeps the
-  /// value of the frame looked up before, so that a frame without a known section shares that of
-  /// its neighbour in the walk.
-  void Find(std::uint32_t frameKey, FrameProperty& property) const {
+  /// What is found for the connectivity row of this key.
+  FrameProperty Find(std::uint32_t frameKey) const {
     // Assignments and frames are paired by position: the two tables list the frames in one order.
     const auto& assignments = m_Model.Rows<T_FRSC_D>();
     if (assignments.Empty()) {
-      return;
+      return {};
     }
     const T_FRSC_D assignment = RecordOr(assignments.Find(frameKey), T_FRSC_D{});
     const auto section =
         m_Model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(assignment.AnalSect);
     if (!section) {
-      return;
+      return {};
     }
-    property.iPRO = static_cast<std::int32_t>(section->Key);
     const auto material = section->Value.Shape == kNonprismatic
                               ? MaterialOfNonprismatic(assignment.AnalSect)
                               : MaterialOrLastKey(m_Model, section->Value.Material);
-    property.iMAT = material.value_or(property.iMAT);
+    return {static_cast<std::int32_t>(section->Key), material.value_or(FrameProperty::kNotFound)};
   }
 
  private:
@@ -129,6 +127,23 @@ double ChangeForVector(double y, double z) {
   return std::atan2(z, y) * 180 / kPi - 90;
 }
 
+/// Meant so: a frame whose section or material is not found shares that of the frame before it in
+/// the walk; those before the first found one have number 0.
+void TakeFromNeighbours(const CKeyedTable<T_CNFR_D>& frames, CKeyedTable<T_NGT_FRAM_D>& beams) {
+  const auto take = [](std::int32_t& number, std::int32_t& numberBefore) {
+    if (number == FrameProperty::kNotFound) {
+      number = numberBefore;
+    }
+    numberBefore = number;
+  };
+  FrameProperty before{.iPRO = 0, .iMAT = 0};
+  for (const auto [key, frame] : frames.Walk()) {
+    T_NGT_FRAM_D& beam = *beams.FindToChange(key);
+    take(beam.iPRO, before.iPRO);
+    take(beam.iMAT, before.iMAT);
+  }
+}
+
 }  // namespace
 
 double AngleInPlane(CModel& model, const AdvancedPlane& plane, double angle) {
@@ -153,17 +168,23 @@ bool ConvertFrames(Conversion& run) {
   // sections are not, and the engineer has to look at both.
   run.Warnings.bFrameLocalAxesLost = true;
   const FramePropertyLookup properties(run.Source);
-  FrameProperty property;  // kept from frame to frame
-  for (const auto [key, frame] : frames.Walk()) {
-    properties.Find(key, property);
+  auto& beams = run.Target.Table<T_NGT_FRAM_D>();
+  beams.Reserve(frames.Count());
+  bool allFound = true;
+  for (const auto [key, frame] : frames.Entries()) {
+    const FrameProperty property = properties.Find(key);
+    allFound = allFound && property.iMAT != FrameProperty::kNotFound;
     run.Elements.NoteLabel(frame.Frame);
-    run.Target.Add(key, T_NGT_FRAM_D{.Label = frame.Frame,
-                                     .Type = "BEAM",
-                                     .iMAT = property.iMAT,
-                                     .iPRO = property.iPRO,
-                                     .Angle = AngleOfFrame(run.Source, frame.Frame),
-                                     .NodeI = frame.JointI,
-                                     .NodeJ = frame.JointJ});
+    beams.Insert(key, {.Label = frame.Frame,
+                       .Type = "BEAM",
+                       .iMAT = property.iMAT,
+                       .iPRO = property.iPRO,
+                       .Angle = AngleOfFrame(run.Source, frame.Frame),
+                       .NodeI = frame.JointI,
+                       .NodeJ = frame.JointJ});
+  }
+  if (!allFound) {
+    TakeFromNeighbours(frames, beams);
   }
   return true;
 }

@@ -40,12 +40,15 @@ Point GlobalCoordinates(CModel& model, Text joint) {
 // ---- Conversion ----
 
 bool ConvertJoints(Conversion& run) {
-  for (const auto [key, joint] : run.Source.Rows<T_JTCD_D>().Walk()) {
+  const auto& joints = run.Source.Rows<T_JTCD_D>();
+  auto& nodes = run.Target.Table<T_NGT_NODE_D>();
+  nodes.Reserve(joints.Count());
+  for (const auto [key, joint] : joints.Entries()) {
     if (!IsAllDigits(joint.Joint)) {
       run.Target.NodeLabelsNumeric = false;
     }
     const Point at = NodeCoordinates(joint);
-    run.Target.Add(key, T_NGT_NODE_D{joint.Joint, at.X, at.Y, at.Z});
+    nodes.Insert(key, {joint.Joint, at.X, at.Y, at.Z});
   }
   return true;
 }

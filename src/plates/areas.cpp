@@ -156,8 +156,11 @@ T_NGT_PLAT_D PlateOf(CModel& model, const T_CNAR_D& area, AreaClassifier& classi
 
 bool ConvertAreas(Conversion& run) {
   AreaClassifier classifier(run);
-  for (const auto [key, area] : run.Source.Rows<T_CNAR_D>().Walk()) {
-    run.Target.Add(key, PlateOf(run.Source, area, classifier));
+  const auto& areas = run.Source.Rows<T_CNAR_D>();
+  auto& plates = run.Target.Table<T_NGT_PLAT_D>();
+  plates.Reserve(areas.Count());
+  for (const auto [key, area] : areas.Entries()) {
+    plates.Insert(key, PlateOf(run.Source, area, classifier));
     run.Elements.NoteLabel(area.Area);
   }
   // Set whether or not an area has local axes: their table is refused, so that the engineer has to

@@ -65,7 +65,7 @@ int CConverter::Impl::Run(const std::string& path) {
 int CConverter::Impl::RunUncaught(const std::string& path) {
   m_File = ReadSourceFile(path);
   m_PrgsDlg.Create();
-  m_PrgsDlg.SetRange(static_cast<int>(CountLines(m_File.Image)));
+  m_PrgsDlg.SetRange(static_cast<int>(CountLines(m_File.Image())));
   if (!m_File.OpenError.empty()) {
     // The progress window stays open behind the message.
     m_Messages.ShowLiteral("Cannot open input file!");
@@ -91,7 +91,7 @@ int CConverter::Impl::RunPhases(const std::string& path) {
 
 int CConverter::Impl::Read() {
   m_Failure.Phase = kReading;
-  TableScanner scanner(m_File.Image, m_Model.Texts(), m_Messages, m_PrgsDlg, *this);
+  TableScanner scanner(m_File.Image(), m_Model.Texts(), m_Messages, m_PrgsDlg, *this);
   const int result = scanner.Read();
   if (result == kFailed && m_Failure.Reason.empty()) {
     m_Failure.Line = scanner.LineNumber();

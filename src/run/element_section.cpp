@@ -21,6 +21,9 @@ bool FamiliesShareLabels(CModel& model) {
   const auto isSolid = [&](Text label) {
     return solids.FirstWith<&T_CNSL_D::Solid>(label).has_value();
   };
+  if (areas.Empty() && solids.Empty()) {
+    return false;
+  }
   if (!frames.Empty()) {
     return std::ranges::any_of(frames.Records(), [&](const T_CNFR_D& frame) {
       return isArea(frame.Frame) || isSolid(frame.Frame);

@@ -3,7 +3,7 @@
 #include "common/messages.h"
 #include "common/record_tables.h"
 #include "common/text.h"
-#include "source/row_grammar.h"
+#include "source/row_reader.h"
 #include "source/table_catalogue.h"
 
 #include <cstdint>
@@ -87,15 +87,16 @@ using RowParser = std::optional<Refusal> (*)(TableRows rows, CModel& model, Mess
 /// cannot be accepted.
 template <class Record, class Refuse>
 std::optional<Refusal> StoreRowsUnless(TableRows rows, CModel& model, Refuse refuse) {
-  RowScan scan;
+  CKeyedTable<Record>& records = model.Rows<Record>();
+  records.Reserve(rows.size());
+  RowReader<Record> reader(model.Texts());
   std::uint32_t position = 0;
   for (const SourceRow& row : rows) {
-    scan.SetRow(row.Content);
-    const auto record = ParseRow<Record>(scan, model.Texts());
+    const Record record = reader.Read(row.Content);
     if (std::optional<std::string> reason = refuse(record)) {
       return Refusal{row.Line, std::move(*reason)};
     }
-    model.Add(++position, record);
+    records.Insert(++position, record);
   }
   model.CountRows(rows.size());
   return std::nullopt;

@@ -20,16 +20,19 @@ namespace s2k2ngt {
 //                                                             {"Section=", &T_ASCA_D::Section},
 //                                                             Unread{"MatProp="}};
 //
-// and ParseRow runs it. A record is the defaults of its member initialisers until a key is met. A
-// key that the row states with nothing behind it gives 0 or an empty text.
+// and a RowReader runs it. A record is the defaults of its member initialisers until a key is met.
+// A key that the row states with nothing behind it gives 0 or an empty text.
 
-/// The name of a key as it stands in rows, with its equals sign. A name that could not be found, or
-/// that would be found half, does not compile.
+/// The name of a key as it stands in rows, with its equals sign and at most a blank before it. A
+/// name that could not be found, or that would be found half, does not compile.
 class KeyName {
  public:
   consteval KeyName(const char* name) : m_Name(name) {
     if (m_Name.find('=') != m_Name.size() - 1) {
       throw "a key ends in its equals sign and holds no other";
+    }
+    if (m_Name.find(' ', 1) != Text::npos) {
+      throw "a key holds no blank but one before it";
     }
   }
   constexpr operator Text() const { return m_Name; }
@@ -85,29 +88,23 @@ class RowKey {
   constexpr Text Name() const { return m_Name; }
   constexpr bool IsRead() const { return m_Kind != Kind::Unread; }
 
-  void Read(const RowScan& row, TextStore& store, Record& record) const {
-    if (m_Kind == Kind::Unread) {
-      return;
-    }
-    const auto value = row.FindValue(m_Name);
-    if (!value) {
-      return;
-    }
+  /// Puts the value that a row states for the key into its field.
+  void Store(Text value, TextStore& store, Record& record) const {
     switch (m_Kind) {
       case Kind::Word:
-        Store(record, m_Text, CStrParser::FirstString(*value, store));
+        Set(record, m_Text, CStrParser::FirstString(value, store));
         break;
       case Kind::Real:
-        Store(record, m_Real, CStrParser::FirstDouble(*value));
+        Set(record, m_Real, CStrParser::FirstDouble(value));
         break;
       case Kind::Integer:
-        Store(record, m_Integer, TruncateToInteger(CStrParser::FirstDouble(*value)));
+        Set(record, m_Integer, TruncateToInteger(CStrParser::FirstDouble(value)));
         break;
       case Kind::YesNo:
-        Store(record, m_Flag, CStrParser::IsYes(CStrParser::FirstString(*value, store)));
+        Set(record, m_Flag, CStrParser::IsYes(CStrParser::FirstString(value, store)));
         break;
       case Kind::Stated:
-        Store(record, m_Flag, true);
+        Set(record, m_Flag, true);
         break;
       case Kind::Unread:
         break;
@@ -121,7 +118,7 @@ class RowKey {
   enum class Kind : std::uint8_t { Word, Real, Integer, YesNo, Stated, Unread };
 
   template <class Field>
-  static void Store(Record& record, Field Record::*field, Field value) {
+  static void Set(Record& record, Field Record::*field, Field value) {
     // A record that is smaller than a field has none of its kind, and compilers warn of the store.
     if constexpr (sizeof(Field) <= sizeof(Record)) {
       record.*field = value;
@@ -183,18 +180,5 @@ inline constexpr auto kKeyUses = [] {
   }
   return uses;
 }();
-
-template <class Record>
-Record ParseRow([[maybe_unused]] const RowScan& row, [[maybe_unused]] TextStore& store) {
-  static_assert(!std::is_same_v<decltype(kRowKeys<Record>), const NoKeysAreDeclared>,
-                "declare the record's keys beside it, in a kRowKeys");
-  Record record;
-  if constexpr (!std::is_empty_v<Record>) {
-    for (const RowKey<Record>& key : kRowKeys<Record>) {
-      key.Read(row, store, record);
-    }
-  }
-  return record;
-}
 
 }  // namespace s2k2ngt

@@ -29,11 +29,20 @@ std::string TitleText(Text titleLine) {
   return std::string(TrimRight(title.substr(0, title.find('"'))));
 }
 
+/// The place of the first " _". Rows are full of blanks and have hardly an underscore.
+std::size_t FindContinuationMark(Text row) {
+  std::size_t underscore = row.find('_');
+  while (underscore != Text::npos && (underscore == 0 || row[underscore - 1] != ' ')) {
+    underscore = row.find('_', underscore + 1);
+  }
+  return underscore == Text::npos ? Text::npos : underscore - 1;
+}
+
 }  // namespace
 
 bool JoinContinuation(Text& row) {
   row = TrimLeft(row);
-  const std::size_t mark = row.find(" _");
+  const std::size_t mark = FindContinuationMark(row);
   if (mark != Text::npos) {
     row = row.substr(0, mark);
     return true;

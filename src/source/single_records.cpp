@@ -7,26 +7,24 @@
 namespace s2k2ngt {
 namespace {
 
-RowScan FirstRow(TableRows rows) {
+Text FirstRow(TableRows rows) {
   if (rows.empty()) {
     throw InvalidArgumentException("the table has no row");
   }
-  RowScan row;
-  row.SetRow(rows.front().Content);
-  return row;
+  return rows.front().Content;
 }
 
 }  // namespace
 
 std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model,
                                                    Messages& /*shown*/) {
-  model.Set(ParseRow<ActiveDegreesOfFreedom>(FirstRow(rows), model.Texts()));
+  model.Set(RowReader<ActiveDegreesOfFreedom>(model.Texts()).Read(FirstRow(rows)));
   model.CountRows(1);
   return std::nullopt;
 }
 
 std::optional<Refusal> StoreCoordinateSystem(TableRows rows, CModel& model, Messages& shown) {
-  const auto system = ParseRow<CoordinateSystem>(FirstRow(rows), model.Texts());
+  const auto system = RowReader<CoordinateSystem>(model.Texts()).Read(FirstRow(rows));
   if (system.Type != "Cartesian") {
     shown.Show("IDS_S2KV8_NODE_NOT_Cylindrical");
     return Refusal{rows.front().Line, "the first coordinate system has Type=" +

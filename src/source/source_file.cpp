@@ -4,11 +4,13 @@
 
 #include <s2k2ngt/exceptions.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 namespace s2k2ngt {
 
@@ -32,23 +34,20 @@ SourceFile ReadSourceFile(const std::string& path) {
   const auto size = std::filesystem::file_size(NativePath(path), sizeUnknown);
   // One byte beyond a regular file's size shows its end without growing the image.
   std::size_t room = sizeUnknown ? std::size_t{1} << 16U : static_cast<std::size_t>(size) + 1;
-  std::size_t used = 0;
+  source.Bytes = std::make_unique_for_overwrite<char[]>(room);
   for (;;) {
-    if (room > source.Image.max_size() - used) {
-      throw MemoryException();
-    }
-    source.Image.resize(used + room);
-    const std::size_t count = std::fread(source.Image.data() + used, 1, room, file.get());
-    used += count;
-    if (count < room) {
+    source.Size += std::fread(source.Bytes.get() + source.Size, 1, room - source.Size, file.get());
+    if (source.Size < room) {
       break;
     }
-    room = used;
+    room *= 2;
+    auto larger = std::make_unique_for_overwrite<char[]>(room);
+    std::copy_n(source.Bytes.get(), source.Size, larger.get());
+    source.Bytes = std::move(larger);
   }
   if (std::ferror(file.get()) != 0) {
     throw FileException("Cannot read input file", errno, path);
   }
-  source.Image.resize(used);
   return source;
 }
 

@@ -7,7 +7,10 @@
 namespace s2k2ngt {
 namespace {
 
-bool NeedsCleaning(Text value) { return value.find_first_of("\t\",") != Text::npos; }
+bool NeedsCleaning(Text value) {
+  return std::any_of(value.begin(), value.end(),
+                     [](char c) { return c == '\t' || c == '"' || c == ','; });
+}
 
 /// The value with tabs as blanks and without quotes; without any blank when it is a list.
 std::string Cleaned(Text value) {
@@ -37,52 +40,33 @@ double Combine(double left, char operation, double right) {
 
 }  // namespace
 
-void RowScan::SetRow(Text row) {
-  m_Row = row;
-  m_Noted = 0;
-  for (std::size_t at = row.find('='); at != Text::npos && m_Noted < kNotedAtMost;
-       at = row.find('=', at + 1)) {
-    m_EqualsSigns[m_Noted++] = at;
+std::optional<Text> FindValue(Text row, Text key) {
+  const std::size_t place = row.find(key);
+  if (place == Text::npos) {
+    return std::nullopt;
   }
-}
-
-std::size_t RowScan::SignBehind(std::size_t index, std::size_t place) const {
-  if (index + 1 < m_Noted) {
-    return m_EqualsSigns[index + 1];
-  }
-  return m_Noted < kNotedAtMost ? Text::npos : m_Row.find('=', place + 1);
-}
-
-std::optional<Text> RowScan::FindValue(Text key) const {
-  std::size_t place = m_Noted > 0 ? m_EqualsSigns[0] : Text::npos;
-  for (std::size_t index = 0; place != Text::npos; ++index) {
-    const std::size_t next = SignBehind(index, place);
-    if (m_Row.substr(0, place + 1).ends_with(key)) {
-      Text value = m_Row.substr(place + 1);
-      if (next != Text::npos) {
-        // A blank right behind the key is not looked at: "Name= Next=1" has the value " Next=1".
-        const std::size_t blank = value.substr(0, next - place - 1).rfind(' ');
-        if (blank != Text::npos && blank > 0) {
-          value = value.substr(0, blank);
-        }
-      }
-      return TrimRight(value);
+  Text value = row.substr(place + key.size());
+  const std::size_t next = value.find('=');
+  if (next != Text::npos) {
+    // A blank right behind the key is not looked at: "Name= Next=1" has the value " Next=1".
+    const std::size_t blank = value.substr(0, next).rfind(' ');
+    if (blank != Text::npos && blank > 0) {
+      value = value.substr(0, blank);
     }
-    place = next;
   }
-  return std::nullopt;
+  return TrimRight(value);
 }
 
-bool CStrParser::GetDoubles(const RowScan& row, Text key, std::vector<double>& values) {
-  const std::optional<Text> value = row.FindValue(key);
+bool CStrParser::GetDoubles(Text row, Text key, std::vector<double>& values) {
+  const std::optional<Text> value = FindValue(row, key);
   if (value) {
     SplitDoubles(*value, values);
   }
   return value.has_value();
 }
 
-bool CStrParser::GetStrings(const RowScan& row, Text key, std::vector<std::string>& values) {
-  const std::optional<Text> value = row.FindValue(key);
+bool CStrParser::GetStrings(Text row, Text key, std::vector<std::string>& values) {
+  const std::optional<Text> value = FindValue(row, key);
   if (value) {
     SplitStrings(*value, values);
   }
@@ -109,6 +93,10 @@ void CStrParser::SplitStrings(Text text, std::vector<std::string>& values) {
 }
 
 double CStrParser::FirstDouble(Text value) {
+  double number = 0.0;
+  if (ParseWholeReal(value, number)) {
+    return number;  // as nearly all are
+  }
   if (!NeedsCleaning(value)) {
     return ParseReal(value);
   }

@@ -2,7 +2,6 @@
 
 #include "common/text.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -17,40 +16,19 @@ struct SourceRow {
   std::uint64_t Line = 0;  // the line of the file on which the row begins
 };
 
-/// A row made ready for looking up the values of many keys. One scan may serve row after row.
-class RowScan {
- public:
-  void SetRow(Text row);
-
-  /// The text behind the first occurrence of `key`, up to the last blank before the next equals
-  /// sign, without trailing white space; nothing when the row does not hold the key.
-  ///
-  /// `key` ends in its equals sign and holds no other. The word before the sign has no boundary:
-  /// "Joint=" is met inside "PanelJoint=" and "Z=" inside "GlobalZ=", if they stand first. Where
-  /// that would do harm, a table asks for the key with a blank before it.
-  std::optional<Text> FindValue(Text key) const;
-
- private:
-  /// The place of the sign behind the one that stands at `place` and is the `index`-th.
-  std::size_t SignBehind(std::size_t index, std::size_t place) const;
-
-  // The places of a row's first equals signs. Rows of the source program have fewer; a longer one
-  // is searched on from there.
-  static constexpr std::size_t kNotedAtMost = 64;
-
-  Text m_Row;
-  std::array<std::size_t, kNotedAtMost> m_EqualsSigns{};
-  std::size_t m_Noted = 0;
-};
+/// The text behind the first occurrence of `key` in a row, up to the last blank before the next
+/// equals sign, without trailing white space; nothing when the row does not hold the key. `key`
+/// ends in its equals sign. RowReader finds the same for all keys of a table at once.
+std::optional<Text> FindValue(Text row, Text key);
 
 /// Gets values out of rows. It holds no state.
 class CStrParser {
  public:
   /// Appends the numbers of the key's value; false, and nothing appended, when the row does not
   /// hold the key.
-  static bool GetDoubles(const RowScan& row, Text key, std::vector<double>& values);
+  static bool GetDoubles(Text row, Text key, std::vector<double>& values);
   /// The same for texts.
-  static bool GetStrings(const RowScan& row, Text key, std::vector<std::string>& values);
+  static bool GetStrings(Text row, Text key, std::vector<std::string>& values);
 
   /// Splits a value at its commas, quotes and, in a list, blanks removed. A value without a comma
   /// is one number as atof reads it; each piece of a list is an expression. So "1/2" is 1 and

@@ -1,4 +1,4 @@
-#include "source/row_grammar.h"
+#include "source/row_reader.h"
 
 #include <cstdint>
 #include <limits>
@@ -42,11 +42,7 @@ namespace {
 
 class RowGrammar : public testing::Test {
  protected:
-  ColumnRow Parse(Text row) {
-    RowScan scan;
-    scan.SetRow(row);
-    return ParseRow<ColumnRow>(scan, m_Store);
-  }
+  ColumnRow Parse(Text row) { return RowReader<ColumnRow>(m_Store).Read(row); }
 
  private:
   TextStore m_Store;

@@ -14,107 +14,93 @@ namespace {
 
 using testing::ElementsAre;
 
-RowScan Scan(Text row) {
-  RowScan scan;
-  scan.SetRow(row);
-  return scan;
-}
-
-std::optional<Text> Value(Text row, Text key) { return Scan(row).FindValue(key); }
-
 std::vector<std::string> Strings(Text row, Text key) {
   std::vector<std::string> values;
-  EXPECT_TRUE(CStrParser::GetStrings(Scan(row), key, values)) << row;
+  EXPECT_TRUE(CStrParser::GetStrings(row, key, values)) << row;
   return values;
 }
 
 std::vector<double> Doubles(Text row, Text key) {
   std::vector<double> values;
-  EXPECT_TRUE(CStrParser::GetDoubles(Scan(row), key, values)) << row;
+  EXPECT_TRUE(CStrParser::GetDoubles(row, key, values)) << row;
   return values;
 }
 
 TEST(FindValue, ValueRunsToTheLastBlankBeforeTheNextEqualsSign) {
-  EXPECT_EQ(Value("Joint=12   XorR=1.5   Y=2", "Joint="), "12");
-  EXPECT_EQ(Value("Joint=12   XorR=1.5   Y=2", "XorR="), "1.5");
-  EXPECT_EQ(Value("Name=A B  Next=1", "Name="), "A B");
+  EXPECT_EQ(FindValue("Joint=12   XorR=1.5   Y=2", "Joint="), "12");
+  EXPECT_EQ(FindValue("Joint=12   XorR=1.5   Y=2", "XorR="), "1.5");
+  EXPECT_EQ(FindValue("Name=A B  Next=1", "Name="), "A B");
 }
 
 TEST(FindValue, LastValueRunsToTheEndOfTheRow) {
-  EXPECT_EQ(Value("Joint=12   Note=left of the lift", "Note="), "left of the lift");
+  EXPECT_EQ(FindValue("Joint=12   Note=left of the lift", "Note="), "left of the lift");
 }
 
 TEST(FindValue, LeadingBlanksAreKeptAndTrailingWhiteSpaceIsNot) {
-  EXPECT_EQ(Value("Name=  A B \t\r\v\f\n  Next=1", "Name="), "  A B");
-  EXPECT_EQ(Value("Name=  A B \t\r\v\f\n", "Name="), "  A B");
+  EXPECT_EQ(FindValue("Name=  A B \t\r\v\f\n  Next=1", "Name="), "  A B");
+  EXPECT_EQ(FindValue("Name=  A B \t\r\v\f\n", "Name="), "  A B");
 }
 
 TEST(FindValue, KeyThatTheRowDoesNotHoldHasNoValue) {
-  EXPECT_EQ(Value("Joint=12   XorR=1.5", "Y="), std::nullopt);
-  EXPECT_EQ(Value("", "Y="), std::nullopt);
-  EXPECT_EQ(Value("a comment without a pair", "comment="), std::nullopt);
-  EXPECT_EQ(Value("Joint 12", "Joint="), std::nullopt);
+  EXPECT_EQ(FindValue("Joint=12   XorR=1.5", "Y="), std::nullopt);
+  EXPECT_EQ(FindValue("", "Y="), std::nullopt);
+  EXPECT_EQ(FindValue("a comment without a pair", "comment="), std::nullopt);
+  EXPECT_EQ(FindValue("Joint 12", "Joint="), std::nullopt);
 }
 
 TEST(FindValue, KeyIsFoundInItsExactCaseAlone) {
-  EXPECT_EQ(Value("JOINT=1   joint=2   Joint=3", "Joint="), "3");
-  EXPECT_EQ(Value("JOINT=1   joint=2", "Joint="), std::nullopt);
+  EXPECT_EQ(FindValue("JOINT=1   joint=2   Joint=3", "Joint="), "3");
+  EXPECT_EQ(FindValue("JOINT=1   joint=2", "Joint="), std::nullopt);
 }
 
 TEST(FindValue, KeyWithABlankBeforeItsEqualsSignIsNotFound) {
-  EXPECT_EQ(Value("Joint =1   Y= 2", "Joint="), std::nullopt);
+  EXPECT_EQ(FindValue("Joint =1   Y= 2", "Joint="), std::nullopt);
 }
 
 TEST(FindValue, FirstOfTwoKeysCounts) {
-  EXPECT_EQ(Value("Joint=1   Y=2   Joint=3", "Joint="), "1");
+  EXPECT_EQ(FindValue("Joint=1   Y=2   Joint=3", "Joint="), "1");
 }
 
 TEST(FindValue, TailOfALongerKeyIsTheKeyIfItStandsFirst) {
-  EXPECT_EQ(Value("PanelJoint=7   Joint=1", "Joint="), "7");
-  EXPECT_EQ(Value("Joint=1   PanelJoint=7", "Joint="), "1");
-  EXPECT_EQ(Value("GlobalZ=6   Y=2   Z=3", "Z="), "6");
-  EXPECT_EQ(Value("GlobalZ=6   Y=2", "Z="), "6");
+  EXPECT_EQ(FindValue("PanelJoint=7   Joint=1", "Joint="), "7");
+  EXPECT_EQ(FindValue("Joint=1   PanelJoint=7", "Joint="), "1");
+  EXPECT_EQ(FindValue("GlobalZ=6   Y=2   Z=3", "Z="), "6");
+  EXPECT_EQ(FindValue("GlobalZ=6   Y=2", "Z="), "6");
 }
 
-TEST(FindValue, KeyIsFoundInsideAValue) { EXPECT_EQ(Value("Note=\"see Z=4\"   Z=3", "Z="), "4\""); }
+TEST(FindValue, KeyIsFoundInsideAValue) {
+  EXPECT_EQ(FindValue("Note=\"see Z=4\"   Z=3", "Z="), "4\"");
+}
 
 TEST(FindValue, EmptyValueAtTheEndOfTheRowIsThere) {
-  EXPECT_EQ(Value("Joint=1   Note=", "Note="), "");
-  EXPECT_EQ(Value("Note=", "Note="), "");
-  EXPECT_EQ(Value("Note=   ", "Note="), "");
+  EXPECT_EQ(FindValue("Joint=1   Note=", "Note="), "");
+  EXPECT_EQ(FindValue("Note=", "Note="), "");
+  EXPECT_EQ(FindValue("Note=   ", "Note="), "");
 }
 
 TEST(FindValue, BlankRightBehindTheKeyDoesNotEndTheValue) {
-  EXPECT_EQ(Value("Name= Next=1", "Name="), " Next=1");
-  EXPECT_EQ(Value("Name=  Next=1", "Name="), "");
-  EXPECT_EQ(Value("Name=   Next=1", "Name="), "");
+  EXPECT_EQ(FindValue("Name= Next=1", "Name="), " Next=1");
+  EXPECT_EQ(FindValue("Name=  Next=1", "Name="), "");
+  EXPECT_EQ(FindValue("Name=   Next=1", "Name="), "");
 }
 
 TEST(FindValue, EqualsSignRightBehindTheKeyCutsNothing) {
-  EXPECT_EQ(Value("Name==5  Next=1", "Name="), "=5  Next=1");
+  EXPECT_EQ(FindValue("Name==5  Next=1", "Name="), "=5  Next=1");
 }
 
 TEST(FindValue, EqualsSignInAQuotedValueIsTakenForTheNextPair) {
-  EXPECT_EQ(Value("Note=\"a=b\" Next=1", "Note="), "\"a=b\" Next=1");
-  EXPECT_EQ(Value("Note=\"x a=b\" Next=1", "Note="), "\"x");
+  EXPECT_EQ(FindValue("Note=\"a=b\" Next=1", "Note="), "\"a=b\" Next=1");
+  EXPECT_EQ(FindValue("Note=\"x a=b\" Next=1", "Note="), "\"x");
 }
 
 TEST(FindValue, TabDoesNotEndAValue) {
-  EXPECT_EQ(Value("Joint=1\tXorR=2\tY=3", "Joint="), "1\tXorR=2\tY=3");
-  EXPECT_EQ(Value("Joint=1 \tXorR=2", "Joint="), "1");
+  EXPECT_EQ(FindValue("Joint=1\tXorR=2\tY=3", "Joint="), "1\tXorR=2\tY=3");
+  EXPECT_EQ(FindValue("Joint=1 \tXorR=2", "Joint="), "1");
 }
 
 TEST(FindValue, SeamOfAContinuedRowHidesTheEndOfTheValue) {
-  EXPECT_EQ(Value("Joint=1Z=0  Next=2", "Joint="), "1Z=0  Next=2");
-  EXPECT_EQ(Value("Joint=1Z=0  Next=2", "Z="), "0");
-}
-
-TEST(FindValue, ScanServesRowAfterRow) {
-  RowScan scan;
-  scan.SetRow("Joint=1   XorR=2   Y=3");
-  scan.SetRow("Frame=9");
-  EXPECT_EQ(scan.FindValue("Joint="), std::nullopt);
-  EXPECT_EQ(scan.FindValue("Frame="), "9");
+  EXPECT_EQ(FindValue("Joint=1Z=0  Next=2", "Joint="), "1Z=0  Next=2");
+  EXPECT_EQ(FindValue("Joint=1Z=0  Next=2", "Z="), "0");
 }
 
 TEST(GetStrings, QuotesAreRemovedWhereverTheyAre) {
@@ -152,13 +138,13 @@ TEST(GetStrings, EmptyPiecesOfAListAreValues) {
 
 TEST(GetStrings, MissingKeyLeavesTheArrayUntouched) {
   std::vector<std::string> values = {"kept"};
-  EXPECT_FALSE(CStrParser::GetStrings(Scan("Joint=1"), "Name=", values));
+  EXPECT_FALSE(CStrParser::GetStrings("Joint=1", "Name=", values));
   EXPECT_THAT(values, ElementsAre("kept"));
 }
 
 TEST(GetStrings, ValuesAreAppended) {
   std::vector<std::string> values = {"kept"};
-  EXPECT_TRUE(CStrParser::GetStrings(Scan("Name=a,b"), "Name=", values));
+  EXPECT_TRUE(CStrParser::GetStrings("Name=a,b", "Name=", values));
   EXPECT_THAT(values, ElementsAre("kept", "a", "b"));
 }
 
@@ -208,13 +194,13 @@ TEST(GetDoubles, EmptyPiecesOfAListAreZero) {
 
 TEST(GetDoubles, MissingKeyLeavesTheArrayUntouched) {
   std::vector<double> values = {8};
-  EXPECT_FALSE(CStrParser::GetDoubles(Scan("Joint=1"), "Val=", values));
+  EXPECT_FALSE(CStrParser::GetDoubles("Joint=1", "Val=", values));
   EXPECT_THAT(values, ElementsAre(8));
 }
 
 TEST(GetDoubles, ValuesAreAppended) {
   std::vector<double> values = {8};
-  EXPECT_TRUE(CStrParser::GetDoubles(Scan("Val=1,2"), "Val=", values));
+  EXPECT_TRUE(CStrParser::GetDoubles("Val=1,2", "Val=", values));
   EXPECT_THAT(values, ElementsAre(8, 1, 2));
 }
 

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "common/text.h"
+#include "source/row_grammar.h"
+#include "source/row_pairs.h"
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <type_traits>
+#include <vector>
+
+namespace s2k2ngt {
+
+/// Reads rows of a table as records, each in a single pass.
+///
+/// A key's value is that behind the first occurrence of its text, as a search for it would find.
+/// The word before the sign has no boundary: "Joint=" is met inside "PanelJoint=" and "Z=" inside
+/// "GlobalZ=", if they stand first. Where that would do harm, a table asks for the key with a blank
+/// before it.
+///
+/// The rows of a table list their keys in one order as a rule. So the reader keeps which keys the
+/// words of a column end in, and compares the words alone with those of the row before.
+template <class Record>
+class RowReader {
+ public:
+  /// Rows and `texts` must outlive the records, and the rows the reader.
+  explicit RowReader(TextStore& texts) : m_Texts(texts) {}
+
+  Record Read([[maybe_unused]] Text row) {
+    static_assert(!std::is_same_v<decltype(kRowKeys<Record>), const NoKeysAreDeclared>,
+                  "declare the record's keys beside it, in a kRowKeys");
+    Record record;
+    if constexpr (!std::is_empty_v<Record>) {
+      KeySet wanted = kReadKeys;
+      RowPairs pairs(row);
+      for (std::size_t column = 0; wanted != 0 && pairs.Next(); ++column) {
+        for (KeySet met = wanted & KeysOf(pairs.Word(), column); met != 0; met &= met - 1) {
+          const auto key = static_cast<std::size_t>(std::countr_zero(met));
+          std::data(kRowKeys<Record>)[key].Store(pairs.Value(), m_Texts, record);
+          wanted ^= KeySet{1} << key;
+        }
+      }
+    }
+    return record;
+  }
+
+ private:
+  using KeySet = std::uint64_t;  // a bit for each of kRowKeys
+
+  struct Column {
+    Text Word;
+    KeySet Keys = 0;
+  };
+
+  static consteval KeySet ReadKeys() {
+    static_assert(std::size(kRowKeys<Record>) <= 64);
+    KeySet keys = 0;
+    for (std::size_t key = 0; key < std::size(kRowKeys<Record>); ++key) {
+      keys |= KeySet{std::data(kRowKeys<Record>)[key].IsRead()} << key;
+    }
+    return keys;
+  }
+  static constexpr KeySet kReadKeys = ReadKeys();
+
+  /// The keys in which the word ends.
+  static KeySet KeysIn(Text word) {
+    KeySet keys = 0;
+    for (std::size_t key = 0; key < std::size(kRowKeys<Record>); ++key) {
+      keys |= KeySet{word.ends_with(std::data(kRowKeys<Record>)[key].Name())} << key;
+    }
+    return keys;
+  }
+
+  KeySet KeysOf(Text word, std::size_t column) {
+    // More columns than any table has are those of a broken row.
+    constexpr std::size_t kColumnsAtMost = 128;
+    if (column >= kColumnsAtMost) {
+      return KeysIn(word);
+    }
+    if (column == m_Columns.size()) {
+      m_Columns.emplace_back();
+    }
+    Column& known = m_Columns[column];
+    if (known.Word != word) {
+      known = {word, KeysIn(word)};
+    }
+    return known.Keys;
+  }
+
+  TextStore& m_Texts;
+  std::vector<Column> m_Columns;
+};
+
+}  // namespace s2k2ngt
