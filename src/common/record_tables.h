@@ -2,10 +2,11 @@
 
 #include "common/keyed_table.h"
 
+#include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <typeindex>
-#include <unordered_map>
+#include <vector>
 
 namespace s2k2ngt {
 
@@ -16,7 +17,7 @@ class RecordTables {
   /// The table of the records; `bucketCount` is that of a table made now.
   template <class Record>
   CKeyedTable<Record>& Of(std::uint32_t bucketCount) {
-    std::unique_ptr<Any>& table = m_Tables[typeid(Record)];
+    std::unique_ptr<Any>& table = PlaceOf<TableOf<Record>>();
     if (table == nullptr) {
       table = std::make_unique<TableOf<Record>>(bucketCount);
     }
@@ -26,7 +27,7 @@ class RecordTables {
   /// The record of a kind that has only one.
   template <class Record>
   Record& Only() {
-    std::unique_ptr<Any>& only = m_Only[typeid(Record)];
+    std::unique_ptr<Any>& only = PlaceOf<OnlyOf<Record>>();
     if (only == nullptr) {
       only = std::make_unique<OnlyOf<Record>>();
     }
@@ -50,8 +51,18 @@ class RecordTables {
     Record Value;
   };
 
-  std::unordered_map<std::type_index, std::unique_ptr<Any>> m_Tables;
-  std::unordered_map<std::type_index, std::unique_ptr<Any>> m_Only;
+  /// Where the set keeps its contents of a kind; null at first.
+  template <class Contents>
+  std::unique_ptr<Any>& PlaceOf() {
+    static const std::size_t number = s_Kinds++;  // the same in all sets
+    if (number >= m_Contents.size()) {
+      m_Contents.resize(number + 1);
+    }
+    return m_Contents[number];
+  }
+
+  static inline std::atomic<std::size_t> s_Kinds = 0;
+  std::vector<std::unique_ptr<Any>> m_Contents;
 };
 
 }  // namespace s2k2ngt

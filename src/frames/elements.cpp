@@ -59,39 +59,43 @@ MaterialByName MaterialsOfNonprismatic(CModel& model) {
   return materials;
 }
 
-/// Looks up the section and material of frame after frame.
+/// Looks up the section and material of frame after frame; the material once for each section.
 class FramePropertyLookup {
  public:
   explicit FramePropertyLookup(CModel& model)
-      : m_Model(model), m_NonprismaticMaterials(MaterialsOfNonprismatic(model)) {}
+      : m_Assignments(model.Rows<T_FRSC_D>()), m_Sections(model.Rows<T_FRSG_D>()) {
+    const MaterialByName nonprismatic = MaterialsOfNonprismatic(model);
+    m_Materials.reserve(m_Sections.Count());
+    for (const auto [key, section] : m_Sections.Entries()) {
+      std::optional<std::int32_t> material;
+      if (section.Shape != kNonprismatic) {
+        material = MaterialOrLastKey(model, section.Material);
+      } else if (const auto found = nonprismatic.find(section.SectionName);
+                 found != nonprismatic.end()) {
+        material = found->second;
+      }
+      m_Materials.emplace(key, material.value_or(FrameProperty::kNotFound));
+    }
+  }
 
   /// What is found for the connectivity row of this key.
   FrameProperty Find(std::uint32_t frameKey) const {
     // Assignments and frames are paired by position: the two tables list the frames in one order.
-    const auto& assignments = m_Model.Rows<T_FRSC_D>();
-    if (assignments.Empty()) {
+    if (m_Assignments.Empty()) {
       return {};
     }
-    const T_FRSC_D assignment = RecordOr(assignments.Find(frameKey), T_FRSC_D{});
-    const auto section =
-        m_Model.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(assignment.AnalSect);
+    const Text name = RecordOr(m_Assignments.Find(frameKey), T_FRSC_D{}).AnalSect;
+    const auto section = m_Sections.FirstWith<&T_FRSG_D::SectionName>(name);
     if (!section) {
       return {};
     }
-    const auto material = section->Value.Shape == kNonprismatic
-                              ? MaterialOfNonprismatic(assignment.AnalSect)
-                              : MaterialOrLastKey(m_Model, section->Value.Material);
-    return {static_cast<std::int32_t>(section->Key), material.value_or(FrameProperty::kNotFound)};
+    return {static_cast<std::int32_t>(section->Key), m_Materials.at(section->Key)};
   }
 
  private:
-  std::optional<std::int32_t> MaterialOfNonprismatic(Text sectionName) const {
-    const auto found = m_NonprismaticMaterials.find(sectionName);
-    return found == m_NonprismaticMaterials.end() ? std::nullopt : found->second;
-  }
-
-  CModel& m_Model;
-  MaterialByName m_NonprismaticMaterials;
+  const CKeyedTable<T_FRSC_D>& m_Assignments;
+  const CKeyedTable<T_FRSG_D>& m_Sections;
+  std::unordered_map<std::uint32_t, std::int32_t> m_Materials;  // by the key of the section
 };
 
 double AngleOfFrame(CModel& model, Text frame) {

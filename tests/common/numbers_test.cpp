@@ -197,6 +197,43 @@ TEST(FormatReal, AgreesWithPrintfOnRandomBits) {
   }
 }
 
+TEST(FormatReal, AgreesWithPrintfOnNumbersOfCommonSize) {
+  std::mt19937_64 random(3);
+  std::uniform_real_distribution<double> exponent(-5.0, 7.0);
+  for (int count = 0; count < 100'000; ++count) {
+    const double value = std::pow(10.0, exponent(random)) * (count % 2 == 0 ? 1 : -1);
+    ASSERT_EQ(Formatted(value), PrintedByC(value));
+  }
+}
+
+TEST(FormatReal, RoundsAsPrintfWhereTheSeventhDigitIsFive) {
+  std::mt19937_64 random(4);
+  for (int count = 0; count < 100'000; ++count) {
+    // 6 digits and a 5, with the point in any place, and the numbers next to it.
+    const double digits = static_cast<double>(random() % 900'000 + 100'000) * 10 + 5;
+    const double value = digits * std::pow(10.0, static_cast<int>(random() % 14) - 12);
+    for (const double near : {value, std::nextafter(value, 0.0), std::nextafter(value, 1e300)}) {
+      ASSERT_EQ(Formatted(near), PrintedByC(near));
+    }
+  }
+}
+
+TEST(FormatReal, AgreesWithPrintfBesideThePowersOfTen) {
+  for (int power = -6; power <= 8; ++power) {
+    double value = std::pow(10.0, power);
+    for (int step = 0; step < 50; ++step) {
+      value = std::nextafter(value, 0.0);
+    }
+    for (int step = 0; step < 100; ++step) {
+      ASSERT_EQ(Formatted(value), PrintedByC(value));
+      value = std::nextafter(value, 1e300);
+    }
+    for (const double part : {0.999999, 0.9999995, 0.99999949, 0.99999951}) {
+      ASSERT_EQ(Formatted(part * std::pow(10.0, power)), PrintedByC(part * std::pow(10.0, power)));
+    }
+  }
+}
+
 TEST(FormatInteger, PrintsTheLimits) {
   char text[kIntegerSize];
   EXPECT_EQ(std::string(text, FormatInteger(text, std::numeric_limits<std::int32_t>::min())),
