@@ -11,6 +11,7 @@ void KeyOrder::Append(std::uint32_t key) {
     if (key == slot + 1) {
       return;  // the key tells its slot, and nothing is kept of it
     }
+    m_Keys.reserve(m_Reserved);
     for (std::uint32_t earlier = 0; earlier < slot; ++earlier) {
       m_Keys.push_back(earlier + 1);
       SetSlot(earlier + 1, earlier);
@@ -41,9 +42,10 @@ void KeyOrder::SetSlot(std::uint32_t key, std::uint32_t slot) {
   // Keys are as a rule row positions, so an array by key holds them; the odd key far beyond the
   // number of records must not blow it up.
   constexpr std::uint32_t kAlwaysByArray = 1U << 16U;
-  if (key >= m_SlotOfKey.size() && (key < kAlwaysByArray || key / 4 < m_Count)) {
-    const std::size_t oldSize = m_SlotOfKey.size();
-    m_SlotOfKey.resize(std::max<std::size_t>(std::size_t{key} + 1, 2 * oldSize), kNoSlot);
+  const bool byArray = key < kAlwaysByArray || key / 4 < m_Count || key <= m_Reserved;
+  if (key >= m_SlotOfKey.size() && byArray) {
+    const std::size_t size = std::max<std::size_t>(m_Reserved, key) + 1;
+    m_SlotOfKey.resize(std::max(size, 2 * m_SlotOfKey.size()), kNoSlot);
     std::erase_if(m_SlotOfOutlier, [this](const auto& outlier) {
       const auto [outlierKey, outlierSlot] = outlier;
       const bool hasPlace = outlierKey < m_SlotOfKey.size();

@@ -31,6 +31,9 @@ class KeyOrder {
 
   explicit KeyOrder(std::uint32_t bucketCount) : m_BucketCount(bucketCount) {}
 
+  /// Makes room for `count` keys in all, each at most `count`.
+  void Reserve(std::size_t count) { m_Reserved = count; }
+
   /// Gives the next slot to a key that has none.
   void Append(std::uint32_t key);
 
@@ -68,6 +71,7 @@ class KeyOrder {
 
   std::uint32_t m_BucketCount;
   std::uint32_t m_Count = 0;
+  std::size_t m_Reserved = 0;  // no memory is taken before a key is out of order
   std::vector<std::uint32_t> m_Keys;  // by slot; empty while they came in order
   std::vector<std::uint32_t> m_SlotOfKey;
   std::unordered_map<std::uint32_t, std::uint32_t> m_SlotOfOutlier;

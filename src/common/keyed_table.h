@@ -38,8 +38,11 @@ class CKeyedTable {
 
   explicit CKeyedTable(std::uint32_t bucketCount = kInitialBuckets) : m_Keys(bucketCount) {}
 
-  /// Makes room for `count` records in all.
-  void Reserve(std::size_t count) { m_Records.reserve(count); }
+  /// Makes room for `count` records in all, with keys up to that count.
+  void Reserve(std::size_t count) {
+    m_Records.reserve(count);
+    m_Keys.Reserve(count);
+  }
 
   /// Stores `record` under `key`.
   void Insert(std::uint32_t key, Record record) {

@@ -57,8 +57,14 @@ bool MapNodes(Conversion& run) {
   if (run.Target.NodeLabelsNumeric) {
     return true;
   }
-  for (const auto [key, joint] : run.Source.Rows<T_JTCD_D>().Walk()) {
-    run.Target.m_NodeMap.Insert(key, {key, static_cast<std::int32_t>(key), joint.Joint});
+  const auto& joints = run.Source.Rows<T_JTCD_D>();
+  run.Target.m_NodeMap.Reserve(joints.Count());
+  // Where joints share a label, a search meets the one that came last into its bucket of the map.
+  // A walk over the joints brings it the first row last; so does going through the rows backwards,
+  // which is quicker.
+  for (auto key = static_cast<std::uint32_t>(joints.Count()); key > 0; --key) {
+    run.Target.m_NodeMap.Insert(
+        key, {key, static_cast<std::int32_t>(key), RecordOr(joints.Find(key), T_JTCD_D{}).Joint});
   }
   return true;
 }

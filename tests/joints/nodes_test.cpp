@@ -2,6 +2,9 @@
 
 #include <s2k2ngt/exceptions.h>
 
+#include <string>
+#include <vector>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -116,6 +119,19 @@ TABLE:  "JOINT COORDINATES"
   EXPECT_THAT(run.Lines("*NODE"), ElementsAre("\t3,     0,     0,     0 \t\t;Joint=A",
                                               "\t2,     1,     0,     0 \t\t;Joint=B",
                                               "\t3,     2,     0,     0 \t\t;Joint=A"));
+}
+
+TEST(Nodes, RepeatedLabelWithALetterInOneBucketGivesBothTheNumberOfTheFirstRow) {
+  // With 10,001 buckets the keys 1 and 10,002 share one. The walk over the joints takes the later
+  // one first, so that the map has the earlier one as its newest.
+  std::string joints = "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int joint = 1; joint <= 10'002; ++joint) {
+    joints += "   Joint=J" + std::to_string(joint % 10'001) + "   XorR=0   Y=0   Z=0\n";
+  }
+  const std::vector<std::string> lines = Convert(joints).Lines("*NODE");
+  ASSERT_EQ(lines.size(), 10'002U);
+  EXPECT_EQ(lines.front(), "\t1,     0,     0,     0 \t\t;Joint=J1");
+  EXPECT_EQ(lines.back(), "\t1,     0,     0,     0 \t\t;Joint=J1");
 }
 
 TEST(Nodes, RepeatedLabelOfDigitsGivesTwoLinesOfOneNumber) {
