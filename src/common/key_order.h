@@ -71,7 +71,7 @@ class KeyOrder {
 
   std::uint32_t m_BucketCount;
   std::uint32_t m_Count = 0;
-  std::size_t m_Reserved = 0;  // no memory is taken before a key is out of order
+  std::size_t m_Reserved = 0;         // no memory is taken before a key is out of order
   std::vector<std::uint32_t> m_Keys;  // by slot; empty while they came in order
   std::vector<std::uint32_t> m_SlotOfKey;
   std::unordered_map<std::uint32_t, std::uint32_t> m_SlotOfOutlier;

@@ -57,6 +57,40 @@ double NearestToUnrepresentable(Text number, char exponentMark) {
   return power * unitsPerDigit + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
+/// Reads digits with at most a minus and a point, if they are so few that they and the power of ten
+/// below them are doubles: then one division rounds as it must.
+bool ParseShortReal(Text text, double& value) {
+  constexpr std::size_t kMostDigits = 15;
+  constexpr std::array<double, kMostDigits + 1> kPowers = {
+      1E0, 1E1, 1E2, 1E3, 1E4, 1E5, 1E6, 1E7, 1E8, 1E9, 1E10, 1E11, 1E12, 1E13, 1E14, 1E15};
+  const bool minus = text.starts_with('-');
+  text.remove_prefix(minus ? 1 : 0);
+  if (text.size() > kMostDigits) {
+    return false;
+  }
+  std::int64_t digits = 0;
+  std::size_t count = 0;
+  std::size_t behindPoint = 0;
+  bool pointSeen = false;
+  for (const char c : text) {
+    if (IsDigitChar(c)) {
+      digits = digits * 10 + (c - '0');
+      ++count;
+      behindPoint += pointSeen ? 1 : 0;
+    } else if (c == '.' && !pointSeen) {
+      pointSeen = true;
+    } else {
+      return false;
+    }
+  }
+  if (count == 0) {
+    return false;
+  }
+  const double size = static_cast<double>(digits) / kPowers[behindPoint];
+  value = minus ? -size : size;
+  return true;
+}
+
 /// Writes a number of common size, as nearly all of a model are, in a fraction of the time that any
 /// number takes. Null for another one, and where rounding to six digits is a near thing.
 char* FormatCommonReal(char* first, double value) {
@@ -131,6 +165,9 @@ double ParseReal(Text text) {
 }
 
 bool ParseWholeReal(Text text, double& value) {
+  if (ParseShortReal(text, value)) {
+    return true;
+  }
   const char* const last = text.data() + text.size();
   double number = 0.0;
   const auto [end, error] = std::from_chars(text.data(), last, number);

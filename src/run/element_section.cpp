@@ -36,8 +36,10 @@ bool FamiliesShareLabels(CModel& model) {
 }  // namespace
 
 bool WriteElements(Conversion& run, LineWriter& out) {
-  if (run.Target.Table<T_NGT_FRAM_D>().Empty() && run.Target.Table<T_NGT_PLAT_D>().Empty() &&
-      run.Target.Table<T_NGT_SOLD_D>().Empty()) {
+  const std::size_t count = run.Target.Table<T_NGT_FRAM_D>().Count() +
+                            run.Target.Table<T_NGT_PLAT_D>().Count() +
+                            run.Target.Table<T_NGT_SOLD_D>().Count();
+  if (count == 0) {
     return true;
   }
   if (run.Warnings.bNodeNotAssigned) {
@@ -61,6 +63,9 @@ bool WriteElements(Conversion& run, LineWriter& out) {
   out.WriteLine(
       "; iEL, TYPE, iMAT, iPRO, iN1, iN2, REF, RPX, RPY, RPZ, iSUB, EXVAL ; Frame(Ref. Point)\n");
   run.Elements.ElemFamiliesOverlap = FamiliesShareLabels(run.Source);
+  if (run.Elements.Renumbered()) {
+    run.Elements.Reserve(count);
+  }
   WriteFrameElements(run, out);
   WritePlanarElements(run, out);
   WriteSolidElements(run, out);

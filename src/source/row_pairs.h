@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace s2k2ngt {
 
@@ -65,22 +66,26 @@ class RowPairs {
     return kBlock - 1 - static_cast<std::size_t>(std::countl_zero(marks)) / kBlock;
   }
 
-  std::uint64_t ByteAt(std::size_t place) const { return static_cast<unsigned char>(m_Row[place]); }
-
   void LoadBlock() {
     std::uint64_t block = 0;
     if (m_Row.size() - m_Block >= kBlock) {
-      // Compilers make one load of it.
-      for (std::size_t byte = 0; byte < kBlock; ++byte) {
-        block |= ByteAt(m_Block + byte) << (8 * byte);
-      }
-    } else {
-      for (std::size_t byte = 0; m_Block + byte < m_Row.size(); ++byte) {
-        block |= ByteAt(m_Block + byte) << (8 * byte);
-      }
+      std::memcpy(&block, m_Row.data() + m_Block, kBlock);
+    } else if (!m_Row.empty()) {
+      std::memcpy(&block, m_Row.data() + m_Block, m_Row.size() - m_Block);
     }
+    block = FirstByteLowest(block);
     m_Signs = MarksOf(block, '=');
     m_Blanks = MarksOf(block, ' ');
+  }
+  static std::uint64_t FirstByteLowest(std::uint64_t block) {
+    if constexpr (std::endian::native == std::endian::little) {
+      return block;
+    }
+    std::uint64_t turned = 0;
+    for (std::size_t byte = 0; byte < kBlock; ++byte) {
+      turned = turned << 8U | (block >> (8 * byte) & 0xFFU);
+    }
+    return turned;
   }
 
   Sign FindSign() {

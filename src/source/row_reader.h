@@ -7,6 +7,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <type_traits>
 #include <vector>
@@ -83,10 +84,36 @@ class RowReader {
       m_Columns.emplace_back();
     }
     Column& known = m_Columns[column];
-    if (known.Word != word) {
+    if (!AreSame(known.Word, word)) {
       known = {word, KeysIn(word)};
     }
     return known.Keys;
+  }
+
+  /// Compares words of 4 to 16 bytes, as nearly all are, without a call.
+  static bool AreSame(Text left, Text right) {
+    const std::size_t size = left.size();
+    if (size != right.size()) {
+      return false;
+    }
+    if (size >= 4 && size <= 8) {
+      return AreSameAtEnds<std::uint32_t>(left, right);
+    }
+    if (size >= 8 && size <= 16) {
+      return AreSameAtEnds<std::uint64_t>(left, right);
+    }
+    return left == right;
+  }
+  template <class Piece>
+  static bool AreSameAtEnds(Text left, Text right) {
+    const auto piece = [](const char* bytes) {
+      Piece value = 0;
+      std::memcpy(&value, bytes, sizeof value);
+      return value;
+    };
+    const std::size_t last = left.size() - sizeof(Piece);
+    return piece(left.data()) == piece(right.data()) &&
+           piece(left.data() + last) == piece(right.data() + last);
   }
 
   TextStore& m_Texts;

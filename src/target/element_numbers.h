@@ -32,6 +32,9 @@ class ElementNumbers {
 
   bool Renumbered() const { return !ElemLabelsNumeric || ElemFamiliesOverlap; }
 
+  /// Makes room for so many renumbered elements.
+  void Reserve(std::size_t count) { m_ElemMap.Reserve(count); }
+
   /// The number of the element that is written at this position, from 1, among all elements; with
   /// a renumbered model it is noted for the references to come.
   std::int32_t NumberAt(std::uint32_t position, Text label, Text family);

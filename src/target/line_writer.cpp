@@ -7,13 +7,11 @@ void LineWriter::Flush() {
   m_Used = 0;
 }
 
-void LineWriter::AppendBehindFlush(std::string_view text) {
+void LineWriter::MakeRoom(std::size_t room) {
   Flush();
-  if (text.size() > m_Buffer.size()) {
-    m_File.Write(text);
-    return;
+  if (room > m_Buffer.size()) {
+    m_Buffer.resize(room);
   }
-  Append(text);
 }
 
 }  // namespace s2k2ngt

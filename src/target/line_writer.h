@@ -33,6 +33,7 @@ class LineFormat {
     constexpr std::array<char, kCount + 1> kinds = {KindOf<Arguments>()..., '\0'};
     std::string_view rest = format;
     TextBefore = TakeText(rest);
+    Room = TextBefore.size();
     for (std::size_t index = 0; index < kCount; ++index) {
       if (rest.empty()) {
         throw "more arguments than the format has places for";
@@ -47,6 +48,7 @@ class LineFormat {
       }
       rest.remove_prefix(1);
       Directives[index].TextBehind = TakeText(rest);
+      Room += Directives[index].Width + Directives[index].TextBehind.size();
     }
     if (!rest.empty()) {
       throw "fewer arguments than the format has places for";
@@ -55,6 +57,7 @@ class LineFormat {
 
   std::string_view TextBefore;
   std::array<Directive, kCount> Directives{};
+  std::size_t Room = 0;  ///< for all but the arguments
 
  private:
   template <class Argument>
@@ -87,14 +90,18 @@ class LineWriter {
   template <class... Arguments>
   void WriteLine(std::type_identity_t<LineFormat<std::remove_cvref_t<Arguments>...>> format,
                  const Arguments&... arguments) {
-    Append(format.TextBefore);
+    const std::size_t room = (format.Room + ... + RoomOf(arguments));
+    if (room > m_Buffer.size() - m_Used) {
+      MakeRoom(room);
+    }
+    char* end = Put(m_Buffer.data() + m_Used, format.TextBefore);
     [[maybe_unused]] std::size_t index = 0;
-    [[maybe_unused]] const auto write = [&](const auto& argument) {
+    [[maybe_unused]] const auto put = [&](const auto& argument) {
       const auto& directive = format.Directives[index++];
-      AppendArgument(argument, directive.Width);
-      Append(directive.TextBehind);
+      end = Put(Pad(end, Put(end, argument), directive.Width), directive.TextBehind);
     };
-    (write(arguments), ...);
+    (put(arguments), ...);
+    m_Used = static_cast<std::size_t>(end - m_Buffer.data());
   }
 
   /// Hands what is buffered to the file.
@@ -103,30 +110,30 @@ class LineWriter {
  private:
   static constexpr std::size_t kBufferSize = std::size_t{1} << 20U;
 
-  void Append(std::string_view text) {
-    if (text.size() > m_Buffer.size() - m_Used) {
-      AppendBehindFlush(text);
-      return;
+  static std::size_t RoomOf(std::string_view text) { return text.size(); }
+  static std::size_t RoomOf(double /*value*/) { return kRealSize; }
+  static std::size_t RoomOf(std::int32_t /*value*/) { return kIntegerSize; }
+
+  // These write from `first` on and return the end of what they wrote.
+  static char* Put(char* first, std::string_view text) {
+    return std::copy(text.begin(), text.end(), first);
+  }
+  static char* Put(char* first, double value) { return FormatReal(first, value); }
+  static char* Put(char* first, std::int32_t value) { return FormatInteger(first, value); }
+  /// Brings what stands from `first` to `last` to the right of the width.
+  static char* Pad(char* first, char* last, std::size_t width) {
+    const auto size = static_cast<std::size_t>(last - first);
+    if (size >= width) {
+      return last;
     }
-    std::copy(text.begin(), text.end(), m_Buffer.data() + m_Used);
-    m_Used += text.size();
+    char* const text = first + (width - size);
+    std::copy_backward(first, last, text + size);
+    std::fill(first, text, ' ');
+    return text + size;
   }
-  void AppendPadded(std::string_view text, std::size_t width) {
-    for (std::size_t size = text.size(); size < width; ++size) {
-      Append(" ");
-    }
-    Append(text);
-  }
-  void AppendArgument(std::string_view text, std::size_t width) { AppendPadded(text, width); }
-  void AppendArgument(double value, std::size_t width) {
-    std::array<char, kRealSize> text{};
-    AppendPadded({text.data(), FormatReal(text.data(), value)}, width);
-  }
-  void AppendArgument(std::int32_t value, std::size_t width) {
-    std::array<char, kIntegerSize> text{};
-    AppendPadded({text.data(), FormatInteger(text.data(), value)}, width);
-  }
-  void AppendBehindFlush(std::string_view text);
+
+  /// Empties the buffer; it grows for a line that has no room in it.
+  void MakeRoom(std::size_t room);
 
   OutputFile& m_File;
   std::vector<char> m_Buffer;
