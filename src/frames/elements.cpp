@@ -1,12 +1,12 @@
 #include "frames/elements.h"
 
 #include "frames/materials.h"
+#include "frames/nonprismatic_materials.h"
 #include "frames/sections.h"
 #include "joints/nodes.h"
 
 #include <array>
 #include <cmath>
-#include <unordered_map>
 
 namespace s2k2ngt {
 
@@ -32,37 +32,10 @@ struct FrameProperty {
   std::int32_t iMAT = 0;
 };
 
-using MaterialByName = std::unordered_map<Text, std::optional<std::int32_t>>;
-
-/// The materials of nonprismatic sections by their names.
-///
-/// A walk over the segments takes each segment of the section, and goes on behind it with the name
-/// of the segment's start section; the material is that of the last start section that is there.
-/// Gone through from its end, the walk gives the answer for all names at once.
-MaterialByName MaterialsOfNonprismatic(CModel& model) {
-  MaterialByName materials;
-  const auto& sections = model.Rows<T_FRSG_D>();
-  const auto& segments = model.Rows<T_FSNP_D>();
-  for (std::size_t position = segments.Walk().Size(); position-- > 0;) {
-    const T_FSNP_D& segment = segments.AtWalk(position).Value;
-    std::optional<std::int32_t> material;
-    if (const auto behind = materials.find(segment.StartSect); behind != materials.end()) {
-      material = behind->second;
-    }
-    const auto start = sections.FirstWith<&T_FRSG_D::SectionName>(segment.StartSect);
-    if (!material && start) {
-      material = MaterialOrLastKey(model, start->Value.Material);
-    }
-    materials[segment.SectionName] = material;
-  }
-  return materials;
-}
-
 /// Looks up the section and material of frame after frame.
 class FramePropertyLookup {
  public:
-  explicit FramePropertyLookup(CModel& model)
-      : m_Model(model), m_NonprismaticMaterials(MaterialsOfNonprismatic(model)) {}
+  explicit FramePropertyLookup(CModel& model) : m_Model(model), m_NonprismaticMaterials(model) {}
 
   /// Sets what is found for the connectivity row of this key. Meant so: what is not found keeps the
   /// value of the frame looked up before, so that a frame without a known section shares that of
@@ -81,19 +54,14 @@ class FramePropertyLookup {
     }
     property.iPRO = static_cast<std::int32_t>(section->Key);
     const auto material = section->Value.Shape == kNonprismatic
-                              ? MaterialOfNonprismatic(assignment.AnalSect)
+                              ? m_NonprismaticMaterials.Of(assignment.AnalSect)
                               : MaterialOrLastKey(m_Model, section->Value.Material);
     property.iMAT = material.value_or(property.iMAT);
   }
 
  private:
-  std::optional<std::int32_t> MaterialOfNonprismatic(Text sectionName) const {
-    const auto found = m_NonprismaticMaterials.find(sectionName);
-    return found == m_NonprismaticMaterials.end() ? std::nullopt : found->second;
-  }
-
   CModel& m_Model;
-  MaterialByName m_NonprismaticMaterials;
+  NonprismaticMaterials m_NonprismaticMaterials;
 };
 
 double AngleOfFrame(CModel& model, Text frame) {
