@@ -23,6 +23,8 @@ using Text = std::string_view;
 // What values are made of: words with "|" between them, of which one is taken, or one of these.
 // The labels of a family, and those that name the row's own element one after the other.
 constexpr Text kJoint = "%joint";
+// one of the first, of which there are then several rows
+constexpr Text kFewJoints = "%few joint";
 constexpr Text kFrame = "%frame";
 constexpr Text kArea = "%area";
 constexpr Text kSolid = "%solid";
@@ -41,7 +43,7 @@ constexpr Text kSections = "S1|S2|S3|S4|S5|S6|NP1|NP2|NP3|X9";
 constexpr Text kAreaSections = "T1|T2|T3|T4|T5";
 constexpr Text kSolidProperties = "SP1|SP2|SP3";
 constexpr Text kProperties = "P1|P2|P3|P4|P5|P6|P7|P8|P9";
-constexpr Text kLoads = "DEAD|LIVE|W1|W2|Q1|Q2|SNOW LOAD|X1";
+constexpr Text kLoads = "DEAD|LIVE|W1|W2|W3|Q1|Q2|Q3|SNOW LOAD|X1";
 constexpr Text kPatterns = "SUN|RAIN|None";
 constexpr Text kModalHistories = "H1|H2";
 constexpr Text kDirectHistories = "T1|T2";
@@ -68,6 +70,10 @@ constexpr std::array kKeyValues = std::to_array<KeyValues>({
     {"active", "UZ", "Yes|Yes|No"},
 
     {"T_JTCD_D", "Joint", kOwnJoint},
+    {"T_JTTP_D", "Joint", kFewJoints},
+    {"T_JTAV_D", "Joint", kFewJoints},
+    {"T_JTLF_D", "Joint", kFewJoints},
+    {"T_JTMA_D", "Joint", kFewJoints},
     {"T_JTCA_D", "Type", "&Constraint"},
     {"T_JTCA_D", "Constraint", "BM1|BM2|BM3|BY1|BY2|BY3|DI1|DI2|EQ1|LN1|PL1|RD1|WD1|LC1"},
     {"T_JTRA_D", "U1", kFlag},
@@ -187,9 +193,9 @@ constexpr std::array kKeyValues = std::to_array<KeyValues>({
     {"T_LDCS_D", "DesignType", "&LoadCase"},
     {"T_LDCS_D", "AutoLoad", "&LoadCase"},
     {"", "SelfWtMult", "0|0|0|1|-1"},
-    {"T_SUB7_D", "LoadCase", "Q1|Q2"},
-    {"T_SNBC_D", "LoadCase", "Q1|Q2"},
-    {"T_W", "LoadCase", "W1|W2"},
+    {"T_SUB7_D", "LoadCase", "Q1|Q2|Q3"},
+    {"T_SNBC_D", "LoadCase", "Q1|Q2|Q3"},
+    {"T_W", "LoadCase", "W1|W2|W3"},
     {"", "LoadCase", kLoads},
     {"T_FRLT_D", "Type", "Temperature|Gradient2|Gradient3"},
     {"T_ALTM_D", "Type", "Temperature|Gradient3"},
@@ -205,7 +211,7 @@ constexpr std::array kKeyValues = std::to_array<KeyValues>({
     {"", "SourceType", "A|B"},
     {"", "Exposure", "B|C|D"},
 
-    {"T_ANAL_D", "Case", "DEAD|LIVE|W1|W2|Q1|Q2|SNOW LOAD|MODAL|RS1|H1|H2|T1|T2|MV1|BK1"},
+    {"T_ANAL_D", "Case", "DEAD|LIVE|W1|W2|W3|Q1|Q2|Q3|SNOW LOAD|MODAL|RS1|H1|H2|T1|T2|MV1|BK1"},
     {"T_ANAL_D", "Type", "&Case"},
     {"", "InitialCond", "Zero|Zero|DEAD"},
     {"T_STC1_D", "Case", kLoads},
@@ -303,8 +309,8 @@ constexpr std::array kMatchingValues = std::to_array<MatchingValues>({
     {"DesignType", "Q", "QUAKE"},
     {"DesignType", "SNOW", "SNOW"},
     {"DesignType", "", "OTHER"},
-    {"AutoLoad", "W", "UBC 97|ASCE 7-98|NBCC 95|BOCA 96|None"},
-    {"AutoLoad", "Q", "UBC97|NBCC95|IBC2000|None"},
+    {"AutoLoad", "W", "UBC 97|UBC 97|UBC 97|ASCE 7-98|NBCC 95|BOCA 96|None"},
+    {"AutoLoad", "Q", "UBC97|UBC97|UBC97|NBCC95|IBC2000|None"},
     {"AutoLoad", "", "None"},
 });
 
@@ -419,11 +425,12 @@ class ModelWriter {
   }
 
   bool IsWanted(Text record) {
-    constexpr std::array<Text, 24> kCore = {
+    constexpr std::array<Text, 30> kCore = {
         "T_JTCD_D", "T_CNFR_D", "T_FRSC_D", "T_FRSG_D", "T_MTGN_D", "T_CNAR_D",
         "T_LDCS_D", "T_STC1_D", "T_ANAL_D", "T_ASPR_D", "T_FTHU_D", "T_FSNP_D",
         "T_MDH1_D", "T_MDH2_D", "T_DRH1_D", "T_DRH2_D", "T_DRH3_D", "T_COMB_D",
-        "T_BLBR_D", "T_WUB7_D", "T_WAS8_D", "T_WNBC_D", "T_SUB7_D", "T_SNBC_D"};
+        "T_BLBR_D", "T_WUB7_D", "T_WAS8_D", "T_WNBC_D", "T_SUB7_D", "T_SNBC_D",
+        "T_JTTP_D", "T_JTAV_D", "T_JTLF_D", "T_JTMA_D", "T_JTCA_D", "T_CDDP_D"};
     // With a function from a file, those of the user's own are not looked at.
     constexpr std::array<Text, 2> kRare = {"T_FTHF_D", "T_ALGR_D"};
     if (std::ranges::find(kCore, record) != kCore.end()) {
@@ -438,7 +445,10 @@ class ModelWriter {
   void WriteTable(const TitledTable& table) {
     m_Text += "TABLE:  \"" + table.Title + "\"\n";
     m_InOrder = !OneIn(4);
-    const std::uint32_t count = table.Outcome.Buckets == 0 ? 1 : Below(OneIn(3) ? 30 : 12);
+    const std::uint32_t count = table.Outcome.Buckets == 0 ? 1
+                                                           : Below(OneIn(8)   ? 80
+                                                                   : OneIn(3) ? 30
+                                                                              : 12);
     for (m_Row = 1; m_Row <= count; ++m_Row) {
       WriteRow(table.Columns);
     }
@@ -521,7 +531,7 @@ class ModelWriter {
 
   std::string Label(Text family) {
     constexpr Text kOwn = "%own ";
-    std::uint32_t number = 1 + Below(12);
+    std::uint32_t number = 1 + Below(family == kFewJoints ? 3 : 12);
     if (family.starts_with(kOwn)) {
       number = m_InOrder && !OneIn(16) ? m_Row : number;
       family.remove_prefix(kOwn.size() - 1);
