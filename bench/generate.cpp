@@ -100,42 +100,48 @@ void CollidingFamilies(SourceWriter& out, int rows) {
   Areas(out, rows);
 }
 
-template <int cases>
+// Loads have a fixed number of cases and elements, but no more than loads.
+constexpr int kElementsAtMost = 20'000;
+
+template <int casesAtMost>
 void FrameLoads(SourceWriter& out, int rows) {
-  constexpr int kFrames = 20'000;
+  const int cases = std::min(casesAtMost, rows);
+  const int frames = std::min(kElementsAtMost, rows);
   Head(out);
-  Joints(out, kFrames);
-  Frames(out, kFrames);
+  Joints(out, frames);
+  Frames(out, frames);
   StaticCases(out, cases);
   out.Table("FRAME LOADS - DISTRIBUTED", rows, [&](int i) {
-    out.Row("Frame=", i % kFrames + 1, "   LoadCase=L", i % cases + 1,
+    out.Row("Frame=", i % frames + 1, "   LoadCase=L", i % cases + 1,
             "   CoordSys=GLOBAL   Type=Force   Dir=Gravity   DistType=RelDist   RelDistA=0   ",
             "RelDistB=1   AbsDistA=0   AbsDistB=3.25   FOverLA=", i % 100 * 0.25,
             "   FOverLB=", i % 100 * 0.25);
   });
 }
 
-template <int cases>
+template <int casesAtMost>
 void JointLoads(SourceWriter& out, int rows) {
-  constexpr int kJoints = 20'000;
-  Joints(out, kJoints);
+  const int cases = std::min(casesAtMost, rows);
+  const int joints = std::min(kElementsAtMost, rows);
+  Joints(out, joints);
   StaticCases(out, cases);
   out.Table("JOINT LOADS - FORCE", rows, [&](int i) {
-    out.Row("Joint=", i % kJoints + 1, "   LoadCase=L", i % cases + 1,
+    out.Row("Joint=", i % joints + 1, "   LoadCase=L", i % cases + 1,
             "   CoordSys=GLOBAL   F1=0   F2=", i % 7 * 0.5, "   F3=", -i % 100 * 0.25,
             "   M1=0   M2=0   M3=0");
   });
 }
 
-template <int cases>
+template <int casesAtMost>
 void AreaLoads(SourceWriter& out, int rows) {
-  constexpr int kAreas = 20'000;
+  const int cases = std::min(casesAtMost, rows);
+  const int areas = std::min(kElementsAtMost, rows);
   Head(out);
-  Joints(out, kAreas);
-  Areas(out, kAreas);
+  Joints(out, areas);
+  Areas(out, areas);
   StaticCases(out, cases);
   out.Table("AREA LOADS - UNIFORM", rows, [&](int i) {
-    out.Row("Area=", i % kAreas + 1, "   LoadCase=L", i % cases + 1,
+    out.Row("Area=", i % areas + 1, "   LoadCase=L", i % cases + 1,
             "   CoordSys=GLOBAL   Dir=Gravity   UnifLoad=", i % 100 * 0.25);
   });
 }

@@ -6,11 +6,11 @@
 #include "analysis/structure.h"
 #include "analysis/time_history.h"
 #include "bridge/moving_loads.h"
+#include "common/worked_out.h"
 #include "loads/load_cases.h"
 
 #include <algorithm>
 #include <array>
-#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -21,15 +21,15 @@ namespace {
 /// What the walk over the analysis cases carries from one to the next.
 struct CaseWalk {
   Conversion& Run;
-  /// Linear static cases that make no difference when their name is met again.
-  std::unordered_set<Text> SettledStaticCases;
+  /// Whether a linear static case makes no difference when its name is met again.
+  WorkedOut<Text, bool> IsStaticCaseSettled;
   ModalHistoryLoads ModalLoads;
 };
 
 void ConvertLinearStatic(CaseWalk& walk, const T_ANAL_D& analysis) {
-  if (!walk.SettledStaticCases.contains(analysis.Case) &&
-      !ConvertStaticCase(walk.Run, analysis.Case)) {
-    walk.SettledStaticCases.insert(analysis.Case);
+  const auto [isSettled, isNew] = walk.IsStaticCaseSettled.Meet(analysis.Case);
+  if (!isSettled) {
+    isSettled = !ConvertStaticCase(walk.Run, analysis.Case);
   }
 }
 

@@ -81,9 +81,9 @@ bool AddFunction(Conversion& run, const Load& load) {
 
 void ModalHistoryLoads::Convert(Conversion& run, Text name) {
   const auto& loads = run.Source.Rows<T_MDH2_D>();
-  const auto [known, isNew] = m_Repeated.try_emplace(name);
+  const auto [repeated, isNew] = m_Repeated.Meet(name);
   if (!isNew) {
-    for (const std::uint32_t position : known->second) {
+    for (const std::uint32_t position : repeated) {
       AddLoad(run, loads.AtWalk(position).Value);
     }
     return;
@@ -92,7 +92,7 @@ void ModalHistoryLoads::Convert(Conversion& run, Text name) {
     const T_MDH2_D& load = loads.AtWalk(position).Value;
     if (KindOf(load) != TimeFunctionKind::Other) {
       AddLoad(run, load);
-      known->second.push_back(position);
+      repeated.push_back(position);
     }
     if (!HasTimeFunction(run, load.Function) && !AddFunction(run, load)) {
       return;

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "common/text.h"
+#include "common/worked_out.h"
 #include "source/model.h"
 #include "source/row_grammar.h"
 #include "target/conversion.h"
 
 #include <concepts>
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 namespace s2k2ngt {
@@ -80,7 +80,7 @@ class ModalHistoryLoads {
  private:
   /// Walk positions of the loads of a case that do more than bring in their function, which they do
   /// once: they are all that counts when the case comes again.
-  std::unordered_map<Text, std::vector<std::uint32_t>> m_Repeated;
+  WorkedOut<Text, std::vector<std::uint32_t>> m_Repeated;
 };
 
 /// The loads of a direct history case. Meant so: their functions must be there already, brought in

@@ -1,6 +1,7 @@
 #include "frames/elements.h"
 
 #include "frames/materials.h"
+#include "frames/nonprismatic_materials.h"
 #include "frames/sections.h"
 #include "joints/nodes.h"
 
@@ -33,47 +34,17 @@ struct FrameProperty {
   std::int32_t iMAT = kNotFound;
 };
 
-using MaterialByName = std::unordered_map<Text, std::optional<std::int32_t>>;
-
-/// The materials of nonprismatic sections by their names.
-///
-/// A walk over the segments takes each segment of the section, and goes on behind it with the name
-/// of the segment's start section; the material is that of the last start section that is there.
-/// Gone through from its end, the walk gives the answer for all names at once.
-MaterialByName MaterialsOfNonprismatic(CModel& model) {
-  MaterialByName materials;
-  const auto& sections = model.Rows<T_FRSG_D>();
-  const auto& segments = model.Rows<T_FSNP_D>();
-  for (std::size_t position = segments.Count(); position-- > 0;) {
-    const T_FSNP_D& segment = segments.AtWalk(position).Value;
-    std::optional<std::int32_t> material;
-    if (const auto behind = materials.find(segment.StartSect); behind != materials.end()) {
-      material = behind->second;
-    }
-    const auto start = sections.FirstWith<&T_FRSG_D::SectionName>(segment.StartSect);
-    if (!material && start) {
-      material = MaterialOrLastKey(model, start->Value.Material);
-    }
-    materials[segment.SectionName] = material;
-  }
-  return materials;
-}
-
 /// Looks up the section and material of frame after frame; the material once for each section.
 class FramePropertyLookup {
  public:
   explicit FramePropertyLookup(CModel& model)
       : m_Assignments(model.Rows<T_FRSC_D>()), m_Sections(model.Rows<T_FRSG_D>()) {
-    const MaterialByName nonprismatic = MaterialsOfNonprismatic(model);
+    const NonprismaticMaterials nonprismatic(model);
     m_Materials.reserve(m_Sections.Count());
     for (const auto [key, section] : m_Sections.Entries()) {
-      std::optional<std::int32_t> material;
-      if (section.Shape != kNonprismatic) {
-        material = MaterialOrLastKey(model, section.Material);
-      } else if (const auto found = nonprismatic.find(section.SectionName);
-                 found != nonprismatic.end()) {
-        material = found->second;
-      }
+      const auto material = section.Shape == kNonprismatic
+                                ? nonprismatic.Of(section.SectionName)
+                                : MaterialOrLastKey(model, section.Material);
       m_Materials.emplace(key, material.value_or(FrameProperty::kNotFound));
     }
   }

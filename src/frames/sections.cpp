@@ -1,12 +1,12 @@
 #include "frames/sections.h"
 
+#include "common/worked_out.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
 #include "frames/modifiers.h"
 
 #include <algorithm>
 #include <optional>
-#include <unordered_map>
 #include <utility>
 
 namespace s2k2ngt {
@@ -233,16 +233,16 @@ Text OffsetOfSection(CModel& model, Text sectionName, Text otherwise) {
 
 bool ConvertSections(Conversion& run) {
   const bool hasMultipleSegments = HasMultipleSegments(run.Source);
-  std::unordered_map<Text, std::optional<T_NGT_SECT_D>> taperedByName;
+  WorkedOut<Text, std::optional<T_NGT_SECT_D>> taperedByName;
   for (const auto [key, source] : run.Source.Rows<T_FRSG_D>().Walk()) {
     std::optional<T_NGT_SECT_D> section;
     if (source.Shape == kNonprismatic) {
       run.Target.bSectionMultiSegment = hasMultipleSegments;
-      const auto [known, isNew] = taperedByName.try_emplace(source.SectionName);
+      const auto [tapered, isNew] = taperedByName.Meet(source.SectionName);
       if (isNew) {
-        known->second = ConvertTapered(run, source.SectionName);
+        tapered = ConvertTapered(run, source.SectionName);
       }
-      section = known->second;
+      section = tapered;
     } else {
       section = ConvertPrismatic(run, key, source);
     }

@@ -1,10 +1,10 @@
 #include "joints/constraints.h"
 
+#include "joints/joint_with_mass.h"
 #include "joints/masses.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
 #include <optional>
 #include <string>
 #include <unordered_set>
@@ -28,21 +28,6 @@ std::vector<Text> JointsOf(Conversion& run, Text constraint) {
     joints.push_back(run.Target.NodeLabelsNumeric ? memberships.Find(key)->Joint : "(null)");
   }
   return joints;
-}
-
-/// Place of the joint whose row of masses a walk meets first.
-std::optional<std::size_t> PlaceOfJointWithMass(CModel& model, const std::vector<Text>& joints) {
-  const auto& masses = model.Rows<T_JTMA_D>();
-  std::optional<std::size_t> place;
-  std::size_t firstPosition = std::numeric_limits<std::size_t>::max();
-  for (std::size_t index = 0; index < joints.size(); ++index) {
-    const auto positions = masses.AllWith<&T_JTMA_D::Joint>(joints[index]);
-    if (!positions.empty() && positions.front() < firstPosition) {
-      firstPosition = positions.front();
-      place = index;
-    }
-  }
-  return place;
 }
 
 Text JoinWithBlanks(const std::vector<Text>& words, TextStore& texts) {

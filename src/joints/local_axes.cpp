@@ -1,13 +1,11 @@
 #include "joints/local_axes.h"
 
+#include "joints/matrix_rows.h"
 #include "joints/nodes.h"
 
 #include <cmath>
 #include <optional>
-#include <set>
-#include <unordered_map>
 #include <utility>
-#include <vector>
 
 namespace s2k2ngt {
 
@@ -152,51 +150,6 @@ T_NGT_LCMX_D MatrixFromVectors(const T_NGT_LOCL_D& axes) {
           .M = Transposed({UnitVector(axes.V1, length1), UnitVector(axes.V2, length2),
                            UnitVector(v3, length3)})};
 }
-
-/// The rows of the matrix table while they are made: appended, and found again by their joint to be
-/// written over. A row that has lost its joint is no longer found by it. The table itself is made
-/// when all rows are there, as it would have to index all its labels anew after each that is lost.
-class MatrixRows {
- public:
-  void Append(const T_NGT_LCMX_D& matrix) {
-    m_Rows.push_back(matrix);
-    m_RowsOfJoint[matrix.Label].insert(PlaceOf(m_Rows.size()));
-  }
-
-  /// Writes over the row of the joint that a walk over the table meets first, if there is one.
-  void ReplaceOrAppend(Text joint, const T_NGT_LCMX_D& matrix) {
-    std::set<WalkPlace>& places = m_RowsOfJoint[joint];
-    if (places.empty()) {
-      Append(matrix);
-      return;
-    }
-    const WalkPlace first = *places.begin();
-    m_Rows[KeyOf(first) - 1] = matrix;
-    if (matrix.Label != joint) {
-      places.erase(places.begin());
-      m_RowsOfJoint[matrix.Label].insert(first);
-    }
-  }
-
-  void Store(CNgtModel& target) const {
-    std::uint32_t key = 0;
-    for (const T_NGT_LCMX_D& matrix : m_Rows) {
-      target.Add(++key, matrix);
-    }
-  }
-
- private:
-  /// Orders rows as a walk meets them: by bucket, and within it the newest first.
-  using WalkPlace = std::pair<std::uint32_t, std::int64_t>;
-  static WalkPlace PlaceOf(std::size_t key) {
-    return {BucketOf(static_cast<std::uint32_t>(key), T_NGT_LCMX_D::kBuckets),
-            -static_cast<std::int64_t>(key)};
-  }
-  static std::size_t KeyOf(WalkPlace place) { return static_cast<std::size_t>(-place.second); }
-
-  std::vector<T_NGT_LCMX_D> m_Rows;  // by key, from 1
-  std::unordered_map<Text, std::set<WalkPlace>> m_RowsOfJoint;
-};
 
 void ConvertAdvancedAxes(CModel& model, T_NGT_LOCL_D& axes, MatrixRows& matrices) {
   const auto found = model.Rows<T_JTAV_D>().FirstWith<&T_JTAV_D::Joint>(axes.Label);

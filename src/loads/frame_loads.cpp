@@ -1,5 +1,6 @@
 #include "loads/frame_loads.h"
 
+#include "common/worked_out.h"
 #include "frames/elements.h"
 #include "frames/materials.h"
 #include "frames/sections.h"
@@ -9,7 +10,6 @@
 #include <array>
 #include <cmath>
 #include <optional>
-#include <unordered_map>
 #include <utility>
 
 namespace s2k2ngt {
@@ -146,11 +146,11 @@ class SectionWeights {
   explicit SectionWeights(CModel& model) : m_Model(model) {}
 
   SectionWeight Of(Text sectionName) {
-    const auto [known, isNew] = m_Known.try_emplace(sectionName);
+    const auto [weight, isNew] = m_Known.Meet(sectionName);
     if (isNew) {
-      known->second = Compute(sectionName);
+      weight = Compute(sectionName);
     }
-    return known->second;
+    return weight;
   }
 
  private:
@@ -178,7 +178,7 @@ class SectionWeights {
   }
 
   CModel& m_Model;
-  std::unordered_map<Text, SectionWeight> m_Known;
+  WorkedOut<Text, SectionWeight> m_Known;
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "loads/wind_seismic.h"
 
 #include "common/numbers.h"
+#include "loads/settled_parameters.h"
 #include "target/load_frame.h"
 
 #include <algorithm>
@@ -95,16 +96,6 @@ T_NGT_WNBC_D Convert(const T_WNBC_D& source, TextStore& /*texts*/) {
           .GEF = source.Cg};
 }
 
-/// The first key that falls into the last bucket of a table: once it is there a walk ends with it,
-/// whatever is appended.
-std::uint32_t FirstKeyOfLastBucket(std::uint32_t bucketCount) {
-  std::uint32_t key = 1;
-  while (BucketOf(key, bucketCount) != bucketCount - 1) {
-    ++key;
-  }
-  return key;
-}
-
 /// True when the parameters made a difference. Each time that a load is met its parameters are
 /// appended, though the first are the ones that are written. Those behind them decide by which load
 /// a walk ends, until that is settled.
@@ -117,8 +108,7 @@ bool ConvertLoad(Conversion& run, Text load) {
   const auto target = Convert(row->Value, run.Target.Texts());
   using Target = std::remove_cv_t<decltype(target)>;
   auto& table = run.Target.Table<Target>();
-  static const std::uint32_t countWhenSettled = FirstKeyOfLastBucket(Target::kBuckets);
-  if (table.Count() >= countWhenSettled && table.template FirstWith<&Target::LoadCase>(load)) {
+  if (AreSettled(table, load)) {
     return false;
   }
   table.Append(target);

@@ -1,5 +1,6 @@
 #include "plates/areas.h"
 
+#include "common/worked_out.h"
 #include "frames/elements.h"
 #include "frames/materials.h"
 #include "joints/nodes.h"
@@ -7,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <unordered_map>
 
 namespace s2k2ngt {
 
@@ -114,8 +114,7 @@ class AreaClassifier {
   explicit AreaClassifier(Conversion& run) : m_Run(run) {}
 
   const Classification& Of(Text sectionName, const T_CNAR_D& area) {
-    const auto [known, isNew] = m_Outcomes.try_emplace(sectionName);
-    Outcomes& outcomes = known->second;
+    const auto [outcomes, isNew] = m_Outcomes.Meet(sectionName);
     if (isNew) {
       outcomes = {Classify(m_Run, sectionName, true), Classify(m_Run, sectionName, false)};
     }
@@ -130,7 +129,7 @@ class AreaClassifier {
     Classification OutOfPlane;
   };
   Conversion& m_Run;
-  std::unordered_map<Text, Outcomes> m_Outcomes;
+  WorkedOut<Text, Outcomes> m_Outcomes;
 };
 
 T_NGT_PLAT_D PlateOf(CModel& model, const T_CNAR_D& area, AreaClassifier& classifier) {

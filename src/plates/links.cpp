@@ -1,10 +1,10 @@
 #include "plates/links.h"
 
+#include "common/worked_out.h"
 #include "frames/elements.h"
 
 #include <algorithm>
 #include <optional>
-#include <unordered_map>
 
 namespace s2k2ngt {
 
@@ -70,14 +70,14 @@ T_NGT_ELNK_D ElasticLinkOf(CModel& model, Text property) {
 }
 
 /// The elastic links of linear properties, each worked out once.
-using ElasticLinks = std::unordered_map<Text, T_NGT_ELNK_D>;
+using ElasticLinks = WorkedOut<Text, T_NGT_ELNK_D>;
 
 void ConvertElasticLink(Conversion& run, const T_SMLA_D& summary, ElasticLinks& ofProperties) {
-  const auto [known, isNew] = ofProperties.try_emplace(summary.LinkProp);
+  const auto [known, isNew] = ofProperties.Meet(summary.LinkProp);
   if (isNew) {
-    known->second = ElasticLinkOf(run.Source, summary.LinkProp);
+    known = ElasticLinkOf(run.Source, summary.LinkProp);
   }
-  T_NGT_ELNK_D link = known->second;
+  T_NGT_ELNK_D link = known;
   if (SetEnds(run.Source, summary, link)) {
     run.Target.Table<T_NGT_ELNK_D>().Append(link);
   }
@@ -240,15 +240,17 @@ T_NGT_NLPR_D PropertyOf(CModel& model, Text name, Text linkType) {
 void ConvertProperties(Conversion& run) {
   auto& properties = run.Target.Table<T_NGT_NLPR_D>();
   // Of rows that repeat a property the first works it out.
-  std::unordered_map<QualifiedLabel, std::uint32_t> keys;
+  WorkedOut<QualifiedLabel, std::uint32_t> keys;
   for (const auto [key, row] : run.Source.Rows<T_LPGN_D>().Walk()) {
     if (row.LinkType == kLinear || IsLost(row.LinkType)) {
       continue;
     }
-    const auto newKey = static_cast<std::uint32_t>(properties.Count()) + 1;
-    const auto [known, isNew] = keys.try_emplace({row.Link, row.LinkType}, newKey);
+    const auto [known, isNew] = keys.Meet({row.Link, row.LinkType});
     T_NGT_NLPR_D property =
-        isNew ? PropertyOf(run.Source, row.Link, row.LinkType) : *properties.Find(known->second);
+        isNew ? PropertyOf(run.Source, row.Link, row.LinkType) : *properties.Find(known);
+    if (isNew) {
+      known = static_cast<std::uint32_t>(properties.Count()) + 1;
+    }
     property.TW = row.Weight;
     properties.Append(property);
   }
