@@ -1,20 +1,12 @@
 #include "common/text.h"
 
-#include <cstring>
-
 namespace s2k2ngt {
 
-char* TextStore::Allocate(std::size_t size) {
-  return static_cast<char*>(m_Memory.allocate(size, alignof(char)));
-}
-
-Text TextStore::Keep(Text text) {
-  if (text.empty()) {
-    return {};
-  }
-  char* bytes = Allocate(text.size());
-  std::memcpy(bytes, text.data(), text.size());
-  return {bytes, text.size()};
+void TextStore::AddBlock(std::size_t size) {
+  constexpr std::size_t kUsual = std::size_t{1} << 18U;
+  m_Free = std::max(size, kUsual);
+  m_Blocks.push_back(std::make_unique_for_overwrite<char[]>(m_Free));
+  m_End = m_Blocks.back().get();
 }
 
 std::string ToUpper(Text text) {

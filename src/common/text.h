@@ -1,17 +1,19 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstring>
 #include <functional>
-#include <memory_resource>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace s2k2ngt {
 
-/// A text of a record. It is a view: its bytes lie in the source file's image or in a TextStore,
-/// both of which live as long as the models that hold the record. Bytes above 127 pass through
-/// unchanged; no character set is interpreted.
+/// A text of a record. It is a view: its bytes lie in a TextStore that lives as long as the models
+/// that hold the record. Bytes above 127 pass through unchanged; no character set is interpreted.
 using Text = std::string_view;
 
 /// A label that is unique only together with what qualifies it, as an element's with its family.
@@ -21,17 +23,51 @@ struct QualifiedLabel {
   bool operator==(const QualifiedLabel&) const = default;
 };
 
-/// Owns the bytes of texts that do not stand in the source file as they are needed: joined rows,
-/// values without their quotes, upper-cased words. Addresses stay valid until the store goes.
+/// Owns the bytes of the texts of records. Addresses stay valid until the store goes.
+///
+/// The texts lie close together. Large models spend most of their time waiting for memory, and
+/// labels that were left where they stand in the source file would be among its other bytes.
 class TextStore {
  public:
-  /// Room for `size` bytes.
-  char* Allocate(std::size_t size);
-  /// A copy of `text` that lives as long as the store.
-  Text Keep(Text text);
+  /// A copy of `text` that lives as long as the store. Words that come again and again are kept
+  /// once, as a rule.
+  Text Keep(Text text) {
+    if (text.empty()) {
+      return {};
+    }
+    Text& recent = m_Recent[PlaceOf(text)];
+    if (recent != text) {
+      recent = Copy(text);
+    }
+    return recent;
+  }
 
  private:
-  std::pmr::monotonic_buffer_resource m_Memory;
+  static constexpr std::size_t kRecent = 256;
+
+  /// Spreads words; that labels share places does no harm.
+  static std::size_t PlaceOf(Text text) {
+    const auto first = static_cast<unsigned char>(text.front());
+    const auto last = static_cast<unsigned char>(text.back());
+    return (first * 7U + last * 31U + text.size()) % kRecent;
+  }
+
+  Text Copy(Text text) {
+    if (text.size() > m_Free) {
+      AddBlock(text.size());
+    }
+    std::memcpy(m_End, text.data(), text.size());
+    const Text copy(m_End, text.size());
+    m_End += text.size();
+    m_Free -= text.size();
+    return copy;
+  }
+  void AddBlock(std::size_t size);
+
+  std::vector<std::unique_ptr<char[]>> m_Blocks;
+  char* m_End = nullptr;  // of what is taken of the last block
+  std::size_t m_Free = 0;
+  std::array<Text, kRecent> m_Recent{};
 };
 
 // The formats are those of a program that ran in the "C" locale: white space, digits and upper

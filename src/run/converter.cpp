@@ -17,6 +17,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace s2k2ngt {
 
@@ -31,8 +32,8 @@ class CConverter::Impl : private TableSink {
 
  private:
   int RunUncaught(const std::string& path);
-  int RunPhases(const std::string& path);
-  int Read();
+  int RunPhases(const std::string& path, SourceFile source);
+  int Read(Text image);
   int Convert();
   int Write(const std::string& outputPath);
   int WriteAll(LineWriter& out);
@@ -41,7 +42,6 @@ class CConverter::Impl : private TableSink {
 
   MessageBoxes m_Messages;
   CPrgsDlg m_PrgsDlg;
-  SourceFile m_File;
   CModel m_Model;
   CNgtModel m_NgtModel;
   ElementNumbers m_Elements;
@@ -63,23 +63,24 @@ int CConverter::Impl::Run(const std::string& path) {
 }
 
 int CConverter::Impl::RunUncaught(const std::string& path) {
-  m_File = ReadSourceFile(path);
+  SourceFile source = ReadSourceFile(path);
   m_PrgsDlg.Create();
-  m_PrgsDlg.SetRange(static_cast<int>(CountLines(m_File.Image())));
-  if (!m_File.OpenError.empty()) {
+  m_PrgsDlg.SetRange(static_cast<int>(CountLines(source.Image())));
+  if (!source.OpenError.empty()) {
     // The progress window stays open behind the message.
     m_Messages.ShowLiteral("Cannot open input file!");
-    m_Failure.Reason = "cannot open the input file: " + m_File.OpenError;
+    m_Failure.Reason = "cannot open the input file: " + source.OpenError;
     return kFailed;
   }
   m_Messages.Show("IDS_S2KV8_Export_must_be_executed");
-  const int result = RunPhases(path);
+  const int result = RunPhases(path, std::move(source));
   m_PrgsDlg.Destroy();
   return result;
 }
 
-int CConverter::Impl::RunPhases(const std::string& path) {
-  int result = Read();
+int CConverter::Impl::RunPhases(const std::string& path, SourceFile source) {
+  int result = Read(source.Image());
+  source = {};  // its memory is of more use to the phases to come
   if (result == kConverted) {
     result = Convert();
   }
@@ -89,9 +90,9 @@ int CConverter::Impl::RunPhases(const std::string& path) {
   return result;
 }
 
-int CConverter::Impl::Read() {
+int CConverter::Impl::Read(Text image) {
   m_Failure.Phase = kReading;
-  TableScanner scanner(m_File.Image(), m_Model.Texts(), m_Messages, m_PrgsDlg, *this);
+  TableScanner scanner(image, m_Messages, m_PrgsDlg, *this);
   const int result = scanner.Read();
   if (result == kFailed && m_Failure.Reason.empty()) {
     m_Failure.Line = scanner.LineNumber();

@@ -101,7 +101,7 @@ class RowKey {
         Set(record, m_Integer, TruncateToInteger(CStrParser::FirstDouble(value)));
         break;
       case Kind::YesNo:
-        Set(record, m_Flag, CStrParser::IsYes(CStrParser::FirstString(value, store)));
+        Set(record, m_Flag, CStrParser::FirstIsYes(value));
         break;
       case Kind::Stated:
         Set(record, m_Flag, true);

@@ -26,7 +26,7 @@ namespace s2k2ngt {
 template <class Record>
 class RowReader {
  public:
-  /// Rows and `texts` must outlive the records, and the rows the reader.
+  /// The rows must outlive the reader, and `texts` the records.
   explicit RowReader(TextStore& texts) : m_Texts(texts) {}
 
   Record Read([[maybe_unused]] Text row) {

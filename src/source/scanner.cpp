@@ -51,9 +51,8 @@ bool JoinContinuation(Text& row) {
   return false;
 }
 
-TableScanner::TableScanner(Text image, TextStore& texts, Messages& messages, Progress& progress,
-                           TableSink& sink)
-    : m_Lines(image), m_Texts(texts), m_Messages(messages), m_Progress(progress), m_Sink(sink) {}
+TableScanner::TableScanner(Text image, Messages& messages, Progress& progress, TableSink& sink)
+    : m_Lines(image), m_Messages(messages), m_Progress(progress), m_Sink(sink) {}
 
 int TableScanner::Read() {
   m_Progress.SetPhase(kReading);
@@ -168,6 +167,7 @@ TableScanner::State TableScanner::ReadBlock() {
 void TableScanner::StartBlock() {
   m_RowsAreWanted = m_TableId > 0 && m_Sink.WantsRows(m_TableId);
   m_Rows.clear();
+  m_JoinedRows = {};
   m_PendingText.clear();
   m_RowGoesOn = false;
 }
@@ -181,7 +181,7 @@ void TableScanner::AddLineToRow(Text line) {
     m_PendingText += line;
   }
   if (!goesOn) {
-    m_Rows.push_back({m_RowGoesOn ? m_Texts.Keep(m_PendingText) : line, m_PendingLine});
+    m_Rows.push_back({m_RowGoesOn ? m_JoinedRows.Keep(m_PendingText) : line, m_PendingLine});
     m_PendingText.clear();
   }
   m_RowGoesOn = goesOn;

@@ -26,7 +26,7 @@ class TableSink {
   virtual ~TableSink() = default;
   /// False when the rows of a table are not looked at; its blocks then come without them.
   virtual bool WantsRows(int tableId) = 0;
-  /// False ends the scan in failure.
+  /// False ends the scan in failure. The rows are there until the call ends.
   virtual bool DispatchRows(const TableBlock& block) = 0;
 
  protected:
@@ -46,8 +46,8 @@ class TableSink {
 /// the last line, and a file may end by that.
 class TableScanner {
  public:
-  TableScanner(Text image, TextStore& texts, Messages& messages, Progress& progress,
-               TableSink& sink);
+  /// The image must outlive the scanner.
+  TableScanner(Text image, Messages& messages, Progress& progress, TableSink& sink);
 
   /// Scans the whole file. Returns a RunResult.
   int Read();
@@ -70,7 +70,6 @@ class TableScanner {
   void AddLineToRow(Text line);
 
   LineReader m_Lines;
-  TextStore& m_Texts;
   Messages& m_Messages;
   Progress& m_Progress;
   TableSink& m_Sink;
@@ -81,6 +80,7 @@ class TableScanner {
   std::string m_Title;
   std::uint64_t m_TitleLine = 0;
   std::vector<SourceRow> m_Rows;
+  TextStore m_JoinedRows;     // of the block, as they do not stand in the file
   std::string m_PendingText;  // the row whose end is not read yet
   std::uint64_t m_PendingLine = 0;
   bool m_RowGoesOn = false;

@@ -23,6 +23,13 @@ std::string Cleaned(Text value) {
   return text;
 }
 
+/// The first text of a value that needs cleaning.
+std::string FirstCleaned(Text value) {
+  std::string text = Cleaned(value);
+  text.resize(std::min(text.size(), text.find(',')));
+  return text;
+}
+
 bool IsOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/'; }
 
 double Combine(double left, char operation, double right) {
@@ -106,17 +113,11 @@ double CStrParser::FirstDouble(Text value) {
 }
 
 Text CStrParser::FirstString(Text value, TextStore& store) {
-  if (!NeedsCleaning(value)) {
-    return value;
-  }
-  if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
-    const Text inner = value.substr(1, value.size() - 2);
-    if (!NeedsCleaning(inner)) {
-      return inner;
-    }
-  }
-  const std::string cleaned = Cleaned(value);
-  return store.Keep(Text(cleaned).substr(0, cleaned.find(',')));
+  return store.Keep(NeedsCleaning(value) ? Text(FirstCleaned(value)) : value);
+}
+
+bool CStrParser::FirstIsYes(Text value) {
+  return NeedsCleaning(value) ? FirstCleaned(value) == "Yes" : value == "Yes";
 }
 
 double CStrParser::EvalExpr(Text text) {

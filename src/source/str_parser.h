@@ -38,15 +38,14 @@ class CStrParser {
 
   /// The first number of a value, without the cost of a list.
   static double FirstDouble(Text value);
-  /// The first text of a value. It is part of `value` or of `store`.
+  /// The first text of a value, kept in `store`.
   static Text FirstString(Text value, TextStore& store);
+  /// True when that text is "Yes" in exactly this form.
+  static bool FirstIsYes(Text value);
 
   /// The value of sums, differences, products and quotients taken strictly from left to right:
   /// 1+2*3 is 9. A sign behind an "E", a blank or nothing belongs to its number.
   static double EvalExpr(Text text);
-
-  /// True for "Yes" in exactly this form.
-  static bool IsYes(Text value) { return value == "Yes"; }
 };
 
 }  // namespace s2k2ngt
