@@ -7,6 +7,7 @@ namespace s2k2ngt {
 // ---- Conversion ----
 
 bool ConvertLanes(Conversion& run) {
+  ReserveForRows<T_NGT_LNLN_D, T_BLLN_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_BLLN_D>().Walk()) {
     // The target counts eccentricities to the other side.
     run.Target.Add(key, T_NGT_LNLN_D{row.LaneName, row.Frame, -row.Eccen});

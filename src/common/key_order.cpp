@@ -41,7 +41,7 @@ std::uint32_t KeyOrder::SlotOfAnyKey(std::uint32_t key) const {
 void KeyOrder::SetSlot(std::uint32_t key, std::uint32_t slot) {
   // Keys are as a rule row positions, so an array by key holds them; the odd key far beyond the
   // number of records must not blow it up.
-  constexpr std::uint32_t kAlwaysByArray = 1U << 16U;
+  constexpr std::uint32_t kAlwaysByArray = 1U << 22U;
   const bool byArray = key < kAlwaysByArray || key / 4 < m_Count || key <= m_Reserved;
   if (key >= m_SlotOfKey.size() && byArray) {
     const std::size_t size = std::max<std::size_t>(m_Reserved, key) + 1;

@@ -146,13 +146,13 @@ class CKeyedTable {
   /// next Insert; so also the keys.
   template <auto Field, class Value>
   std::span<const std::uint32_t> AllWith(const Value& value) const {
-    return IndexOf<WalkGroupIndex<Field>>().Find(*this, value);
+    return GroupIn<WalkGroupIndex<Field>>(value);
   }
 
   /// The keys, ascending, of all entries whose `Field` equals `value`.
   template <auto Field, class Value>
   std::span<const std::uint32_t> KeysWith(const Value& value) const {
-    return IndexOf<KeyGroupIndex<Field>>().Find(*this, value);
+    return GroupIn<KeyGroupIndex<Field>>(value);
   }
 
  private:
@@ -299,6 +299,11 @@ class CKeyedTable {
       }
     }
   };
+
+  template <class GroupsIndex, class Value>
+  std::span<const std::uint32_t> GroupIn(const Value& value) const {
+    return Empty() ? std::span<const std::uint32_t>() : IndexOf<GroupsIndex>().Find(*this, value);
+  }
 
   template <class WantedIndex>
   const WantedIndex& IndexOf() const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <unordered_map>
+#include "common/value_map.h"
 
 namespace s2k2ngt {
 
@@ -8,19 +8,11 @@ namespace s2k2ngt {
 template <class Key, class Value>
 class WorkedOut {
  public:
-  struct Met {
-    Value& Result;  // valid as long as this object
-    bool IsNew;
-  };
-
   /// The value of a key, still to be worked out when the key is new.
-  Met Meet(const Key& key) {
-    const auto [place, isNew] = m_Values.try_emplace(key);
-    return {place->second, isNew};
-  }
+  typename ValueMap<Key, Value>::Met Meet(const Key& key) { return m_Values.Meet(key); }
 
  private:
-  std::unordered_map<Key, Value> m_Values;
+  ValueMap<Key, Value> m_Values;
 };
 
 }  // namespace s2k2ngt

@@ -33,6 +33,7 @@ EndRelease ReleaseOf(const std::array<bool, 6>& released, bool hasSprings,
 
 bool ConvertReleases(Conversion& run) {
   const auto& springs = run.Source.Rows<T_FRPF_D>();
+  ReserveForRows<T_NGT_FRRL_D, T_FRGN_D>(run);
   for (const auto [key, frame] : run.Source.Rows<T_FRGN_D>().Walk()) {
     const auto found = springs.FirstWith<&T_FRPF_D::Frame>(frame.Frame);
     if (!found && !springs.Empty()) {
@@ -63,6 +64,7 @@ namespace {
 
 void ConvertEndLengths(Conversion& run) {
   auto& offsets = run.Target.Table<T_NGT_FROF_D>();
+  ReserveForRows<T_NGT_FROF_D, T_FROF_D>(run);
   for (const auto [key, frame] : run.Source.Rows<T_FROF_D>().Walk()) {
     if (std::abs(frame.LengthI) + std::abs(frame.LengthJ) <= kTolerance) {
       continue;

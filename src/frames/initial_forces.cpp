@@ -25,6 +25,7 @@ Text TargetDirection(Text direction) {
 }  // namespace
 
 bool ConvertInitialForces(Conversion& run) {
+  ReserveForRows<T_NGT_FRPD_D, T_FRPD_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_FRPD_D>().Walk()) {
     run.Target.Add(key, T_NGT_FRPD_D{row.Frame, TargetDirection(row.Direction), row.Force});
   }
@@ -36,6 +37,7 @@ bool ConvertPrestress(Conversion& run) {
   // Meant so: a tendon without a multiplier takes that of the tendon before it in the walk. Its
   // load case has no name.
   double multiplier = 1.0;
+  ReserveForRows<T_NGT_FRPT_D, T_FRPT_D>(run);
   for (const auto [key, tendon] : run.Source.Rows<T_FRPT_D>().Walk()) {
     // Meant so: a tendon has the multiplier of its own position, if that is of its frame.
     const T_FRLM_D* const paired = multipliers.Find(key);

@@ -171,8 +171,7 @@ bool HasScaleFactors(const T_FRSG_D& section) {
 }
 
 /// Nothing when the target has no such shape, and the section is dropped.
-std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, std::uint32_t key,
-                                             const T_FRSG_D& source) {
+std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, const T_FRSG_D& source) {
   T_NGT_SECT_D section;
   section.TYPE = SectionType::Value;
   section.SHAPE = ShapeCode(source.Shape);
@@ -181,7 +180,16 @@ std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, std::uint32_t key,
     return std::nullopt;
   }
   section.I = EndWith(PrismaticDimensions(section.SHAPE, source), source);
-  if (HasScaleFactors(source)) {
+  return section;
+}
+
+/// The factors of the sections that are given by value, in the order of a walk over the sections.
+void ConvertScaleFactors(Conversion& run) {
+  for (const auto [key, source] : run.Source.Rows<T_FRSG_D>().Walk()) {
+    const bool isDropped = ShapeCode(source.Shape).empty();  // so are nonprismatic ones
+    if (isDropped || !HasScaleFactors(source)) {
+      continue;
+    }
     // The bending factors cross over as the moments of inertia do.
     run.Target.Table<T_NGT_FRPM_D>().Append({.iSEC = static_cast<std::int32_t>(key),
                                              .AREA_SF = source.AMod,
@@ -192,7 +200,6 @@ std::optional<T_NGT_SECT_D> ConvertPrismatic(Conversion& run, std::uint32_t key,
                                              .IZZ_SF = source.I2Mod,
                                              .WGT_SF = source.WMod});
   }
-  return section;
 }
 
 Text OffsetOfCardinalPoint(Text cardinalPoint, Text otherwise) {
@@ -234,7 +241,10 @@ Text OffsetOfSection(CModel& model, Text sectionName, Text otherwise) {
 bool ConvertSections(Conversion& run) {
   const bool hasMultipleSegments = HasMultipleSegments(run.Source);
   WorkedOut<Text, std::optional<T_NGT_SECT_D>> taperedByName;
-  for (const auto [key, source] : run.Source.Rows<T_FRSG_D>().Walk()) {
+  const auto& sources = run.Source.Rows<T_FRSG_D>();
+  auto& sections = run.Target.Table<T_NGT_SECT_D>();
+  sections.Reserve(sources.Count());
+  for (const auto [key, source] : sources.Entries()) {
     std::optional<T_NGT_SECT_D> section;
     if (source.Shape == kNonprismatic) {
       run.Target.bSectionMultiSegment = hasMultipleSegments;
@@ -244,13 +254,16 @@ bool ConvertSections(Conversion& run) {
       }
       section = tapered;
     } else {
-      section = ConvertPrismatic(run, key, source);
+      section = ConvertPrismatic(run, source);
     }
     if (section) {
       section->SNAME = source.SectionName;
       section->OFFSET = OffsetOfSection(run.Source, source.SectionName, section->OFFSET);
-      run.Target.Add(key, *section);
+      sections.Insert(key, *section);
     }
+  }
+  if (std::ranges::any_of(sources.Records(), HasScaleFactors)) {
+    ConvertScaleFactors(run);
   }
   return true;
 }
@@ -263,10 +276,8 @@ namespace {
 void WriteProperties(const SectionEnd& end, LineWriter& out) {
   out.WriteLine("\t\t%g, %5g, %5g, %5g, %5g, %5g\n", end.AREA, end.ASy, end.ASz, end.Ixx, end.Iyy,
                 end.Izz);
-  const auto& further = end.Further;
-  out.WriteLine("\t\t%g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", further[0], further[1],
-                further[2], further[3], further[4], further[5], further[6], further[7], further[8],
-                further[9]);
+  // CyP, CyM, CzP, CzM, QyB, QzB, PERI_OUT, PERI_IN, Cy, Cz: the source states none of them.
+  out.WriteLine("\t\t0,     0,     0,     0,     0,     0,     0,     0,     0,     0\n");
 }
 
 void WriteTaperedData(const T_NGT_SECT_D& section, LineWriter& out) {

@@ -127,8 +127,6 @@ struct SectionEnd {
   double Ixx = 0.0;
   double Iyy = 0.0;
   double Izz = 0.0;
-  // CyP, CyM, CzP, CzM, QyB, QzB, PERI_OUT, PERI_IN, Cy, Cz: the source states none of them
-  std::array<double, 10> Further{};
 };
 
 enum class SectionType { DbUser, Value, Tapered };

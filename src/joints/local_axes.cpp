@@ -178,7 +178,10 @@ void ConvertAdvancedAxes(CModel& model, T_NGT_LOCL_D& axes, MatrixRows& matrices
 
 bool ConvertLocalAxes(Conversion& run) {
   MatrixRows matrices;
-  for (const auto [key, joint] : run.Source.Rows<T_JTTP_D>().Walk()) {
+  const auto& joints = run.Source.Rows<T_JTTP_D>();
+  auto& nodes = run.Target.Table<T_NGT_LOCL_D>();
+  nodes.Reserve(joints.Count());
+  for (const auto [key, joint] : joints.Walk()) {
     // The source names its rotations from the last to the first.
     T_NGT_LOCL_D axes{.Label = joint.Joint,
                       .ANGLE_x = joint.AngleC,
@@ -190,7 +193,7 @@ bool ConvertLocalAxes(Conversion& run) {
     if (joint.AdvanceAxes) {
       ConvertAdvancedAxes(run.Source, axes, matrices);
     }
-    run.Target.Add(key, axes);
+    nodes.Insert(key, axes);
   }
   matrices.Store(run.Target);
   return true;

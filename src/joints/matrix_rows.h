@@ -2,12 +2,13 @@
 
 #include "common/keyed_table.h"
 #include "common/text.h"
+#include "common/value_map.h"
 #include "joints/local_axes.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <set>
-#include <unordered_map>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -20,28 +21,30 @@ class MatrixRows {
  public:
   void Append(const T_NGT_LCMX_D& matrix) {
     m_Rows.push_back(matrix);
-    m_RowsOfJoint[matrix.Label].insert(PlaceOf(m_Rows.size()));
+    Add(m_PlacesOf.Meet(matrix.Label).Result, PlaceOf(m_Rows.size()));
   }
 
   /// Writes over the row of the joint that a walk over the table meets first, if there is one.
   void ReplaceOrAppend(Text joint, const T_NGT_LCMX_D& matrix) {
-    std::set<WalkPlace>& places = m_RowsOfJoint[joint];
+    Places& places = m_PlacesOf.Meet(joint).Result;
     if (places.empty()) {
       Append(matrix);
       return;
     }
-    const WalkPlace first = *places.begin();
+    const WalkPlace first = places.front();
     m_Rows[KeyOf(first) - 1] = matrix;
     if (matrix.Label != joint) {
-      places.erase(places.begin());
-      m_RowsOfJoint[matrix.Label].insert(first);
+      std::ranges::pop_heap(places, std::ranges::greater());
+      places.pop_back();
+      Add(m_PlacesOf.Meet(matrix.Label).Result, first);
     }
   }
 
   void Store(CNgtModel& target) const {
-    std::uint32_t key = 0;
+    auto& matrices = target.Table<T_NGT_LCMX_D>();
+    matrices.Reserve(m_Rows.size());
     for (const T_NGT_LCMX_D& matrix : m_Rows) {
-      target.Add(++key, matrix);
+      matrices.Append(matrix);
     }
   }
 
@@ -54,8 +57,14 @@ class MatrixRows {
   }
   static std::size_t KeyOf(WalkPlace place) { return static_cast<std::size_t>(-place.second); }
 
+  using Places = std::vector<WalkPlace>;  // a heap, the first of the walk in front
+  static void Add(Places& places, WalkPlace place) {
+    places.push_back(place);
+    std::ranges::push_heap(places, std::ranges::greater());
+  }
+
   std::vector<T_NGT_LCMX_D> m_Rows;  // by key, from 1
-  std::unordered_map<Text, std::set<WalkPlace>> m_RowsOfJoint;
+  ValueMap<Text, Places> m_PlacesOf;
 };
 
 }  // namespace s2k2ngt

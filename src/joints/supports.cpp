@@ -11,6 +11,7 @@ namespace s2k2ngt {
 
 bool ConvertRestraints(Conversion& run) {
   const auto digit = [](bool restrained) { return restrained ? '1' : '0'; };
+  ReserveForRows<T_NGT_BNDR_D, T_JTRA_D>(run);
   for (const auto [key, joint] : run.Source.Rows<T_JTRA_D>().Walk()) {
     run.Target.Add(key, T_NGT_BNDR_D{joint.Joint,
                                      {digit(joint.U1), digit(joint.U2), digit(joint.U3),
@@ -27,6 +28,7 @@ constexpr Text kGlobal = "GLOBAL";
 
 bool ConvertUncoupledSprings(Conversion& run) {
   auto& springs = run.Target.Table<T_NGT_NSPR_D>();
+  ReserveForRows<T_NGT_NSPR_D, T_JTUC_D>(run);
   for (const auto [key, joint] : run.Source.Rows<T_JTUC_D>().Walk()) {
     SixComponents k = {joint.U1, joint.U2, joint.U3, joint.R1, joint.R2, joint.R3};
     if (joint.CoordSys == kGlobal) {
@@ -38,6 +40,7 @@ bool ConvertUncoupledSprings(Conversion& run) {
 }
 
 bool ConvertCoupledSprings(Conversion& run) {
+  ReserveForRows<T_NGT_GSPR_D, T_JTSC_D>(run);
   for (const auto [key, joint] : run.Source.Rows<T_JTSC_D>().Walk()) {
     if (joint.CoordSys == kGlobal && HasAxesMatrix(run.Target, joint.Joint)) {
       run.Warnings.bCoupledSpringLost = true;

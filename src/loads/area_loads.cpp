@@ -35,6 +35,7 @@ bool ConvertUniformLoads(Conversion& run) {
   // that load's area. The first in the walk has none before it and repeats an empty one, whose load
   // case has no name.
   T_NGT_PRSL_D load;
+  ReserveForRows<T_NGT_PRSL_D, T_ALUM_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_ALUM_D>().Walk()) {
     if (row.CoordSys == "GLOBAL") {
       const LoadDirection direction = DirectionOf(row.Dir);
@@ -71,6 +72,7 @@ void SetCorners(CModel& model, const T_ALSP_D& row, T_NGT_PRSL_D& load) {
 }  // namespace
 
 bool ConvertSurfacePressures(Conversion& run) {
+  ReserveForRows<T_NGT_PRSL_D, T_ALSP_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_ALSP_D>().Walk()) {
     if (!IsTopOrBottom(row.Face)) {
       run.Warnings.bPlatePressureLost = true;

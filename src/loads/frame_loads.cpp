@@ -76,6 +76,7 @@ T_NGT_ELMB_D BeamLoad(const Row& row, const LoadDirection& direction) {
 }  // namespace
 
 bool ConvertDistributedLoads(Conversion& run) {
+  ReserveForRows<T_NGT_ELMB_D, T_FRLD_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_FRLD_D>().Walk()) {
     const LoadDirection direction = DirectionOf(row.CoordSys, row.Dir);
     T_NGT_ELMB_D load = BeamLoad(row, direction);
@@ -108,6 +109,7 @@ bool ConvertDistributedLoads(Conversion& run) {
 }
 
 bool ConvertPointLoads(Conversion& run) {
+  ReserveForRows<T_NGT_ELMB_D, T_FRLP_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_FRLP_D>().Walk()) {
     const LoadDirection direction = DirectionOfPoint(row.CoordSys, row.Dir);
     T_NGT_ELMB_D load = BeamLoad(row, direction);

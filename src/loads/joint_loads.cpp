@@ -10,6 +10,7 @@ namespace s2k2ngt {
 // ---- Conversion ----
 
 bool ConvertJointForces(Conversion& run) {
+  ReserveForRows<T_NGT_NDLD_D, T_JTLF_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_JTLF_D>().Walk()) {
     SixComponents f = {row.F1, row.F2, row.F3, row.M1, row.M2, row.M3};
     // Any other system is taken as global.
@@ -24,6 +25,7 @@ bool ConvertJointForces(Conversion& run) {
 bool ConvertGroundDisplacements(Conversion& run) {
   // A value at the tolerance counts here, unlike elsewhere.
   const auto flag = [](double value) { return std::abs(value) >= kTolerance ? '1' : '0'; };
+  ReserveForRows<T_NGT_DISP_D, T_JTGD_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_JTGD_D>().Walk()) {
     SixComponents d = {row.U1, row.U2, row.U3, row.R1, row.R2, row.R3};
     // The target displaces a support along its node's axes, the source by this name along the

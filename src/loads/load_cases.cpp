@@ -46,6 +46,7 @@ bool MapLoadType(Conversion& run, T_NGT_STLC_D& loadCase) {
 bool ConvertStaticCase(Conversion& run, Text analysisCase) {
   const auto& rows = run.Source.Rows<T_STC1_D>();
   auto& loadCases = run.Target.Table<T_NGT_STLC_D>();
+  loadCases.Reserve(rows.Count());
   bool differs = false;
   for (const std::uint32_t position : rows.AllWith<&T_STC1_D::Case>(analysisCase)) {
     const auto [key, row] = rows.AtWalk(position);

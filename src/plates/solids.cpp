@@ -41,6 +41,7 @@ void FindMaterial(CModel& model, Text solid, std::int32_t& iMAT) {
 
 bool ConvertSolids(Conversion& run) {
   std::int32_t iMAT = 0;  // kept from solid to solid
+  ReserveForRows<T_NGT_SOLD_D, T_CNSL_D>(run);
   for (const auto [key, solid] : run.Source.Rows<T_CNSL_D>().Walk()) {
     FindMaterial(run.Source, solid.Solid, iMAT);
     run.Elements.NoteLabel(solid.Solid);

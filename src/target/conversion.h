@@ -58,6 +58,13 @@ void ShowIfLost(Conversion& run) {
   }
 }
 
+/// Makes room in a target table for a further record of each source row.
+template <class Target, class Source>
+void ReserveForRows(Conversion& run) {
+  auto& records = run.Target.Table<Target>();
+  records.Reserve(records.Count() + run.Source.Rows<Source>().Count());
+}
+
 /// Below this absolute value a number of the source file counts as zero.
 inline constexpr double kTolerance = 1e-15;
 inline bool IsAboveTolerance(double value) { return std::abs(value) > kTolerance; }

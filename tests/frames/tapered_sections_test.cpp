@@ -437,40 +437,37 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
 
 TEST(TaperedSections, FormOfValuesWritesThreeLinesForEachEnd) {
   WriterRun run;
-  run.Target.Add(1, s2k2ngt::T_NGT_SECT_D{
-                        .TYPE = s2k2ngt::SectionType::Tapered,
-                        .SNAME = "HAUNCH",
-                        .OFFSET = "CT",
-                        .SHAPE = "H",
-                        .I = {.D = {0.6, 0.3, 0.01, 0.02, 0.25, 0.015},
-                              .AREA = 0.0175,
-                              .ASy = 0.006,
-                              .ASz = 0.009,
-                              .Ixx = 0.000002,
-                              .Iyy = 0.0011,
-                              .Izz = 0.00009,
-                              .Further = {0.15, 0.14, 0.3, 0.31, 0.05, 0.02, 2.4, 0, 0.125, 0.25}},
-                        .J = {.D = {1.2, 0.4, 0.02, 0.03, 0.35, 0.025},
-                              .AREA = 0.0425,
-                              .ASy = 0.024,
-                              .ASz = 0.017,
-                              .Ixx = 0.00001,
-                              .Iyy = 0.01,
-                              .Izz = 0.0003,
-                              .Further = {0.2, 0.19, 0.6, 0.61, 0.1, 0.04, 4, 0, 0.175, 0.5}},
-                        .iyVAR = 2,
-                        .izVAR = 3,
-                        .STYPE = "VALUE"});
+  run.Target.Add(1, s2k2ngt::T_NGT_SECT_D{.TYPE = s2k2ngt::SectionType::Tapered,
+                                          .SNAME = "HAUNCH",
+                                          .OFFSET = "CT",
+                                          .SHAPE = "H",
+                                          .I = {.D = {0.6, 0.3, 0.01, 0.02, 0.25, 0.015},
+                                                .AREA = 0.0175,
+                                                .ASy = 0.006,
+                                                .ASz = 0.009,
+                                                .Ixx = 0.000002,
+                                                .Iyy = 0.0011,
+                                                .Izz = 0.00009},
+                                          .J = {.D = {1.2, 0.4, 0.02, 0.03, 0.35, 0.025},
+                                                .AREA = 0.0425,
+                                                .ASy = 0.024,
+                                                .ASz = 0.017,
+                                                .Ixx = 0.00001,
+                                                .Iyy = 0.01,
+                                                .Izz = 0.0003},
+                                          .iyVAR = 2,
+                                          .izVAR = 3,
+                                          .STYPE = "VALUE"});
   const std::string written = run.Write(s2k2ngt::WriteSections);
   EXPECT_THAT(written, StartsWith("*SECTION    ; Section\n\n; iSEC"));
   EXPECT_EQ(written.substr(written.find('\t')),
             "\t1, TAPERED, HAUNCH,    CT,     H,     2,     3, VALUE\n"
             "\t\t  0.6,  0.3, 0.01, 0.02, 0.25,0.015\n"
             "\t\t0.0175, 0.006, 0.009, 2e-06, 0.0011, 9e-05\n"
-            "\t\t0.15,  0.14,   0.3,  0.31,  0.05,  0.02,   2.4,     0, 0.125,  0.25\n"
+            "\t\t0,     0,     0,     0,     0,     0,     0,     0,     0,     0\n"
             "\t\t  1.2,  0.4, 0.02, 0.03, 0.35,0.025\n"
             "\t\t0.0425, 0.024, 0.017, 1e-05,  0.01, 0.0003\n"
-            "\t\t0.2,  0.19,   0.6,  0.61,   0.1,  0.04,     4,     0, 0.175,   0.5\n"
+            "\t\t0,     0,     0,     0,     0,     0,     0,     0,     0,     0\n"
             "\n");
   EXPECT_THAT(run.Messages, IsEmpty());
 }

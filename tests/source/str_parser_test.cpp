@@ -289,10 +289,10 @@ TEST(EvalExpr, DivisionByZeroStandsAsItComes) {
   EXPECT_TRUE(std::isnan(CStrParser::EvalExpr("0/0")));
 }
 
-TEST(IsYes, IsTheWordInThisFormAlone) {
-  EXPECT_TRUE(CStrParser::IsYes("Yes"));
+TEST(FirstIsYes, IsTheWordInThisFormAlone) {
+  EXPECT_TRUE(CStrParser::FirstIsYes("Yes"));
   for (const char* value : {"yes", "YES", "Y", "Yes ", " Yes", "Yes.", "True", "1", "No", ""}) {
-    EXPECT_FALSE(CStrParser::IsYes(value)) << value;
+    EXPECT_FALSE(CStrParser::FirstIsYes(value)) << value;
   }
 }
 
