@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 
 namespace s2k2ngt {
 
@@ -18,16 +17,9 @@ struct NumberInCase {
   bool operator==(const NumberInCase&) const = default;
 };
 
-}  // namespace s2k2ngt
-
-template <>
-struct std::hash<s2k2ngt::NumberInCase> {
-  std::size_t operator()(const s2k2ngt::NumberInCase& number) const noexcept {
-    return std::hash<s2k2ngt::Text>()(number.Case) * 31 + std::hash<std::int32_t>()(number.Number);
-  }
-};
-
-namespace s2k2ngt {
+inline std::uint32_t LookUpHash(const NumberInCase& number) {
+  return LookUpHash(number.Case) * 31U + static_cast<std::uint32_t>(number.Number);
+}
 
 // ---- Source rows ----
 

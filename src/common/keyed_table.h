@@ -159,11 +159,6 @@ class CKeyedTable {
   template <auto Field>
   using FieldValue = std::remove_cvref_t<std::invoke_result_t<decltype(Field), const Record&>>;
 
-  template <auto Field>
-  static std::size_t HashOf(const FieldValue<Field>& value) {
-    return std::hash<FieldValue<Field>>()(value);
-  }
-
   struct Index {
     virtual ~Index() = default;
     explicit Index(const void* kind) : Kind(kind) {}
@@ -193,10 +188,9 @@ class CKeyedTable {
       for (; this->Indexed < table.Count(); ++this->Indexed) {
         const auto slot = static_cast<std::uint32_t>(this->Indexed);
         const auto& value = std::invoke(Field, table.m_Records[slot]);
-        std::uint32_t& first =
-            Slots.FindOrAdd(HashOf<Field>(value), slot, [&](std::uint32_t known) {
-              return std::invoke(Field, table.m_Records[known]) == value;
-            });
+        std::uint32_t& first = Slots.FindOrAdd(LookUpHash(value), slot, [&](std::uint32_t known) {
+          return std::invoke(Field, table.m_Records[known]) == value;
+        });
         if (first != slot && table.m_Keys.BucketOfSlot(slot) <= table.m_Keys.BucketOfSlot(first)) {
           first = slot;
         }
@@ -204,7 +198,7 @@ class CKeyedTable {
     }
 
     std::uint32_t Find(const CKeyedTable& table, const FieldValue<Field>& value) const {
-      return Slots.Find(HashOf<Field>(value), [&](std::uint32_t slot) {
+      return Slots.Find(LookUpHash(value), [&](std::uint32_t slot) {
         return std::invoke(Field, table.m_Records[slot]) == value;
       });
     }
@@ -230,7 +224,7 @@ class CKeyedTable {
         const auto& value = std::invoke(Field, table.m_Records[slot]);
         const auto newGroup = static_cast<std::uint32_t>(Firsts.size());
         const std::uint32_t group =
-            Groups.FindOrAdd(HashOf<Field>(value), newGroup, [&](std::uint32_t known) {
+            Groups.FindOrAdd(LookUpHash(value), newGroup, [&](std::uint32_t known) {
               return std::invoke(Field, table.m_Records[Firsts[known]]) == value;
             });
         if (group == newGroup) {
@@ -256,7 +250,7 @@ class CKeyedTable {
 
     std::span<const std::uint32_t> Find(const CKeyedTable& table,
                                         const FieldValue<Field>& value) const {
-      const std::uint32_t group = Groups.Find(HashOf<Field>(value), [&](std::uint32_t known) {
+      const std::uint32_t group = Groups.Find(LookUpHash(value), [&](std::uint32_t known) {
         return std::invoke(Field, table.m_Records[Firsts[known]]) == value;
       });
       if (group == NumberHash::kNone) {

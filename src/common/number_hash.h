@@ -9,6 +9,9 @@ namespace s2k2ngt {
 
 /// Numbers of things that are kept elsewhere, found by the hash of the thing. It takes 8 bytes for
 /// each place, of which at least a quarter is free.
+///
+/// Things whose hashes are neighbours are kept as neighbours, so that labels that are numbered are
+/// found in memory that is at hand. Those whose place is taken are spread over all.
 class NumberHash {
  public:
   static constexpr std::uint32_t kNone = std::numeric_limits<std::uint32_t>::max();
@@ -20,20 +23,20 @@ class NumberHash {
   /// The number of the thing with this hash for which `isWanted(number)` is true; kNone when there
   /// is none.
   template <class IsWanted>
-  std::uint32_t Find(std::size_t hash, IsWanted isWanted) const {
-    return m_Places.empty() ? kNone : m_Places[PlaceOf(Mixed(hash), isWanted)].Number;
+  std::uint32_t Find(std::uint32_t hash, IsWanted isWanted) const {
+    return m_Places.empty() ? kNone : m_Places[PlaceOf(hash, isWanted)].Number;
   }
 
   /// The same, and where there is none the number is added. The reference is valid until the next
   /// call.
   template <class IsWanted>
-  std::uint32_t& FindOrAdd(std::size_t hash, std::uint32_t number, IsWanted isWanted) {
+  std::uint32_t& FindOrAdd(std::uint32_t hash, std::uint32_t number, IsWanted isWanted) {
     if (m_Count >= m_Places.size() / 4 * 3) {
       Reserve(m_Count + 1);
     }
-    Place& place = m_Places[PlaceOf(Mixed(hash), isWanted)];
+    Place& place = m_Places[PlaceOf(hash, isWanted)];
     if (place.Number == kNone) {
-      place = {Mixed(hash), number};
+      place = {hash, number};
       ++m_Count;
     }
     return place.Number;
@@ -45,19 +48,20 @@ class NumberHash {
     std::uint32_t Number = kNone;
   };
 
-  /// Spreads hashes that differ in few bits, as those of small integers do.
-  static std::uint32_t Mixed(std::size_t hash) {
-    return static_cast<std::uint32_t>((hash * 0x9E3779B97F4A7C15U) >> 32U);
-  }
-
   /// The place of the wanted number, or the free one where it belongs.
   template <class IsWanted>
   std::size_t PlaceOf(std::uint32_t hash, IsWanted isWanted) const {
     const std::size_t mask = m_Places.size() - 1;
+    const auto isEnd = [&](std::size_t at) {
+      const Place& place = m_Places[at];
+      return place.Number == kNone || (place.Hash == hash && isWanted(place.Number));
+    };
     std::size_t at = hash & mask;
-    while (m_Places[at].Number != kNone &&
-           (m_Places[at].Hash != hash || !isWanted(m_Places[at].Number))) {
-      at = (at + 1) & mask;
+    if (!isEnd(at)) {
+      at = (hash * 0x9E3779B97F4A7C15U >> 32U) & mask;
+      while (!isEnd(at)) {
+        at = (at + 1) & mask;
+      }
     }
     return at;
   }

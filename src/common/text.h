@@ -98,12 +98,23 @@ inline Text TrimRight(Text text) {
 std::string ToUpper(Text text);
 char ToLower(char c);
 
-}  // namespace s2k2ngt
-
-template <>
-struct std::hash<s2k2ngt::QualifiedLabel> {
-  std::size_t operator()(const s2k2ngt::QualifiedLabel& name) const noexcept {
-    const std::hash<s2k2ngt::Text> hashText;
-    return hashText(name.Label) * 31 + hashText(name.Qualifier);
+/// A hash by which labels that are numbered, as "J7" and "J8", are neighbours.
+inline std::uint32_t LookUpHash(Text label) {
+  constexpr std::size_t kMostDigits = 9;
+  std::size_t begin = label.size();
+  while (begin > 0 && label.size() - begin < kMostDigits && IsDigitChar(label[begin - 1])) {
+    --begin;
   }
-};
+  std::uint32_t number = 0;
+  for (const char digit : label.substr(begin)) {
+    number = number * 10 + static_cast<std::uint32_t>(digit - '0');
+  }
+  const Text prefix = label.substr(0, begin);
+  return number + (prefix.empty() ? 0 : static_cast<std::uint32_t>(std::hash<Text>()(prefix)));
+}
+
+inline std::uint32_t LookUpHash(const QualifiedLabel& name) {
+  return LookUpHash(name.Label) + LookUpHash(name.Qualifier) * 0x9E3779B1U;
+}
+
+}  // namespace s2k2ngt

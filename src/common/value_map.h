@@ -1,11 +1,11 @@
 #pragma once
 
 #include "common/number_hash.h"
+#include "common/text.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <deque>
-#include <functional>
 #include <utility>
 
 namespace s2k2ngt {
@@ -22,9 +22,8 @@ class ValueMap {
   /// The value of a key; that of a new key is made now.
   Met Meet(const Key& key) {
     const auto count = static_cast<std::uint32_t>(m_Entries.size());
-    const std::uint32_t number =
-        m_Numbers.FindOrAdd(std::hash<Key>()(key), count,
-                            [&](std::uint32_t known) { return m_Entries[known].first == key; });
+    const std::uint32_t number = m_Numbers.FindOrAdd(
+        LookUpHash(key), count, [&](std::uint32_t known) { return m_Entries[known].first == key; });
     if (number == count) {
       m_Entries.emplace_back(key, Value{});
     }
