@@ -2,6 +2,7 @@
 
 #include "common/key_order.h"
 #include "common/number_hash.h"
+#include "common/text.h"
 
 #include <cstddef>
 #include <cstdint>

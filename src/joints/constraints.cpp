@@ -1,5 +1,6 @@
 #include "joints/constraints.h"
 
+#include "common/value_map.h"
 #include "joints/joint_with_mass.h"
 #include "joints/masses.h"
 
@@ -7,7 +8,6 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 namespace s2k2ngt {
@@ -151,10 +151,10 @@ class RepeatedLinks {
 
 bool ConvertConstraints(Conversion& run) {
   auto& links = run.Target.Table<T_NGT_RLNK_D>();
-  std::unordered_set<Text> handled;
+  ValueMap<Text, bool> handled;
   RepeatedLinks repeated;
   for (const auto [key, membership] : run.Source.Rows<T_JTCA_D>().Walk()) {
-    if (!handled.insert(membership.Constraint).second) {
+    if (!handled.Meet(membership.Constraint).IsNew) {
       continue;
     }
     if (membership.Type == "Local") {
