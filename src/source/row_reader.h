@@ -55,21 +55,24 @@ class RowReader {
     KeySet Keys = 0;
   };
 
-  static consteval KeySet ReadKeys() {
-    static_assert(std::size(kRowKeys<Record>) <= 64);
+  static_assert(std::size(kRowKeys<Record>) <= 64);
+  static constexpr KeySet kReadKeys = [] {
     KeySet keys = 0;
-    for (std::size_t key = 0; key < std::size(kRowKeys<Record>); ++key) {
-      keys |= KeySet{std::data(kRowKeys<Record>)[key].IsRead()} << key;
+    KeySet key = 1;
+    for (const RowKey<Record>& known : kRowKeys<Record>) {
+      keys |= known.IsRead() ? key : 0;
+      key <<= 1;
     }
     return keys;
-  }
-  static constexpr KeySet kReadKeys = ReadKeys();
+  }();
 
   /// The keys in which the word ends.
   static KeySet KeysIn(Text word) {
     KeySet keys = 0;
-    for (std::size_t key = 0; key < std::size(kRowKeys<Record>); ++key) {
-      keys |= KeySet{word.ends_with(std::data(kRowKeys<Record>)[key].Name())} << key;
+    KeySet key = 1;
+    for (const RowKey<Record>& known : kRowKeys<Record>) {
+      keys |= word.ends_with(known.Name()) ? key : 0;
+      key <<= 1;
     }
     return keys;
   }
