@@ -56,7 +56,7 @@ class CModel {
   const ActiveDegreesOfFreedom& Freedom() const { return m_ActiveDegreesOfFreedom; }
   const Units& CurrentUnits() const { return m_Units; }
 
-  /// Bytes of texts that do not stand in the file as the records hold them.
+  /// The bytes of the texts of the records.
   TextStore& Texts() { return m_Texts; }
 
   void CountRows(std::size_t count) { m_RowCount += count; }

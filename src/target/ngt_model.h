@@ -53,7 +53,7 @@ class CNgtModel {
   /// the joint's row position; 0 for a joint that is not there.
   std::int32_t NodeNumber(Text label) const;
 
-  /// Bytes of texts that do not stand in the source file as the records hold them.
+  /// The bytes of the texts of the records that are not those of source records.
   TextStore& Texts() { return m_Texts; }
 
   CKeyedTable<MAP_NODE> m_NodeMap{kTargetBuckets};
