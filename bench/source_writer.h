@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
-#include <charconv>
-#include <concepts>
+#include "pieces.h"
+
+#include <cstddef>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -36,19 +36,12 @@ class SourceWriter {
   /// The pieces of a row, texts and numbers.
   template <class... Pieces>
   void Row(const Pieces&... pieces) {
-    (Append(pieces), ...);
+    AppendPieces(m_Buffer, pieces...);
   }
 
  private:
   static constexpr std::size_t kFlushAt = std::size_t{1} << 20U;
 
-  void Append(std::string_view text) { m_Buffer += text; }
-  template <class Number>
-  requires std::integral<Number> || std::floating_point<Number>
-  void Append(Number value) {
-    std::array<char, 40> text{};
-    m_Buffer.append(text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr);
-  }
   void Flush() {
     std::fwrite(m_Buffer.data(), 1, m_Buffer.size(), stdout);
     m_Buffer.clear();

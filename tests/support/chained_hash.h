@@ -22,6 +22,16 @@ class ChainedHash {
     chain.push_front({key, value});
   }
 
+  /// The value of a key, or null.
+  const Value* Find(std::uint32_t key) const {
+    for (const auto& [chainKey, chainValue] : m_Buckets[Hash(key) % m_Buckets.size()]) {
+      if (chainKey == key) {
+        return &chainValue;
+      }
+    }
+    return nullptr;
+  }
+
   /// All keys and values, bucket by bucket from the head of each chain.
   std::vector<std::pair<std::uint32_t, Value>> Walk() const {
     std::vector<std::pair<std::uint32_t, Value>> walked;
@@ -29,6 +39,11 @@ class ChainedHash {
       walked.insert(walked.end(), chain.begin(), chain.end());
     }
     return walked;
+  }
+
+  /// The chains, for a walk that copies nothing.
+  const std::vector<std::list<std::pair<std::uint32_t, Value>>>& Buckets() const {
+    return m_Buckets;
   }
 
  private:
