@@ -146,6 +146,22 @@ void AreaLoads(SourceWriter& out, int rows) {
   });
 }
 
+void Solids(SourceWriter& out, int rows) {
+  Head(out);
+  Joints(out, rows);
+  out.Table("CONNECTIVITY - SOLID", rows, [&](int i) {
+    const auto joint = [&](int corner) { return (i + corner) % rows + 1; };
+    out.Row("Solid=", i, "   Joint1=", joint(0), "   Joint2=", joint(1), "   Joint3=", joint(2),
+            "   Joint4=", joint(3), "   Joint5=", joint(4), "   Joint6=", joint(5),
+            "   Joint7=", joint(6), "   Joint8=", joint(7), "   Volume=1");
+  });
+  out.Table("SOLID PROPERTY ASSIGNMENTS", rows,
+            [&](int i) { out.Row("Solid=", i, "   SolidProp=P", i % 20 + 1); });
+  out.Table("SOLID PROPERTY DEFINITIONS", 20, [&](int i) {
+    out.Row("SolidProp=P", i, "   Material=M", i, "   MatAngleA=0   MatAngleB=0   MatAngleC=0");
+  });
+}
+
 void AbsoluteDistances(SourceWriter& out, int rows) {
   Head(out);
   Joints(out, rows);
@@ -348,6 +364,7 @@ constexpr auto kScenarios = std::to_array<Scenario>({
     {"numeric-labels", NumericLabels},
     {"alphanumeric-labels", AlphanumericLabels},
     {"colliding-families", CollidingFamilies},
+    {"solids", Solids},
     {"frame-loads-of-1-case", FrameLoads<1>},
     {"frame-loads-of-100-cases", FrameLoads<100>},
     {"frame-loads-of-10000-cases", FrameLoads<10'000>},

@@ -12,8 +12,9 @@
 
 namespace s2k2ngt {
 
-/// A text of a record. It is a view: its bytes lie in a TextStore that lives as long as the models
-/// that hold the record. Bytes above 127 pass through unchanged; no character set is interpreted.
+/// A text of a record. It is a view: its bytes are a constant of the program or lie in a TextStore
+/// that lives as long as the models that hold the record. Bytes above 127 pass through unchanged;
+/// no character set is interpreted.
 using Text = std::string_view;
 
 /// A label that is unique only together with what qualifies it, as an element's with its family.
@@ -29,6 +30,10 @@ struct QualifiedLabel {
 /// labels that were left where they stand in the source file would be among its other bytes.
 class TextStore {
  public:
+  TextStore() = default;
+  TextStore(const TextStore&) = delete;
+  TextStore& operator=(const TextStore&) = delete;
+
   /// A copy of `text` that lives as long as the store. Words that come again and again are kept
   /// once, as a rule.
   Text Keep(Text text) {
@@ -41,6 +46,9 @@ class TextStore {
     }
     return recent;
   }
+
+  /// Forgets all texts.
+  void Clear();
 
  private:
   static constexpr std::size_t kRecent = 256;
@@ -98,7 +106,11 @@ inline Text TrimRight(Text text) {
 std::string ToUpper(Text text);
 char ToLower(char c);
 
-/// A hash by which labels that are numbered, as "J7" and "J8", are neighbours.
+/// Differs from process to process, so that no file can be made whose labels all have one hash.
+std::uint64_t LookUpKey();
+
+/// A hash by which labels that are numbered, as "J7" and "J8", are neighbours. It must decide
+/// nothing that shows: it is another one in every process.
 inline std::uint32_t LookUpHash(Text label) {
   constexpr std::size_t kMostDigits = 9;
   std::size_t begin = label.size();
@@ -109,8 +121,11 @@ inline std::uint32_t LookUpHash(Text label) {
   for (const char digit : label.substr(begin)) {
     number = number * 10 + static_cast<std::uint32_t>(digit - '0');
   }
-  const Text prefix = label.substr(0, begin);
-  return number + (prefix.empty() ? 0 : static_cast<std::uint32_t>(std::hash<Text>()(prefix)));
+  if (begin == 0) {
+    return number;
+  }
+  const std::uint64_t prefix = std::hash<Text>()(label.substr(0, begin));
+  return number + static_cast<std::uint32_t>(((prefix ^ LookUpKey()) * 0x9E3779B97F4A7C15U) >> 32U);
 }
 
 inline std::uint32_t LookUpHash(const QualifiedLabel& name) {

@@ -4,7 +4,8 @@
 
 namespace s2k2ngt {
 
-/// What has been worked out for keys, so that a key that comes again is not worked out again.
+/// What has been worked out for keys, so that a key that comes again is not worked out again. It is
+/// a map and no more; tests put one in its place that forgets, and compare.
 template <class Key, class Value>
 class WorkedOut {
  public:

@@ -102,8 +102,9 @@ double ChangeForVector(double y, double z) {
   return std::atan2(z, y) * 180 / kPi - 90;
 }
 
-/// Meant so: a frame whose section or material is not found shares that of the frame before it in
-/// the walk; those before the first found one have number 0.
+/// Gives a number to each beam that has none yet. Meant so: a frame whose section or material is
+/// not found shares that of the frame before it in the walk; those before the first found one have
+/// number 0.
 void TakeFromNeighbours(const CKeyedTable<T_CNFR_D>& frames, CKeyedTable<T_NGT_FRAM_D>& beams) {
   const auto take = [](std::int32_t& number, std::int32_t& numberBefore) {
     if (number == FrameProperty::kNotFound) {

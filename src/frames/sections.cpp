@@ -240,7 +240,7 @@ Text OffsetOfSection(CModel& model, Text sectionName, Text otherwise) {
 
 bool ConvertSections(Conversion& run) {
   const bool hasMultipleSegments = HasMultipleSegments(run.Source);
-  WorkedOut<Text, std::optional<T_NGT_SECT_D>> taperedByName;
+  WorkedOut<Text, std::uint32_t> taperedByName;  // the key of the first, 0 where it is dropped
   const auto& sources = run.Source.Rows<T_FRSG_D>();
   auto& sections = run.Target.Table<T_NGT_SECT_D>();
   sections.Reserve(sources.Count());
@@ -248,11 +248,13 @@ bool ConvertSections(Conversion& run) {
     std::optional<T_NGT_SECT_D> section;
     if (source.Shape == kNonprismatic) {
       run.Target.bSectionMultiSegment = hasMultipleSegments;
-      const auto [tapered, isNew] = taperedByName.Meet(source.SectionName);
+      const auto [first, isNew] = taperedByName.Meet(source.SectionName);
       if (isNew) {
-        tapered = ConvertTapered(run, source.SectionName);
+        section = ConvertTapered(run, source.SectionName);
+        first = section ? key : 0;
+      } else if (first != 0) {
+        section = *sections.Find(first);
       }
-      section = tapered;
     } else {
       section = ConvertPrismatic(run, source);
     }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace s2k2ngt {
@@ -151,7 +152,7 @@ class RepeatedLinks {
 
 bool ConvertConstraints(Conversion& run) {
   auto& links = run.Target.Table<T_NGT_RLNK_D>();
-  ValueMap<Text, bool> handled;
+  ValueMap<Text, std::monostate> handled;
   RepeatedLinks repeated;
   for (const auto [key, membership] : run.Source.Rows<T_JTCA_D>().Walk()) {
     if (!handled.Meet(membership.Constraint).IsNew) {

@@ -167,7 +167,7 @@ TableScanner::State TableScanner::ReadBlock() {
 void TableScanner::StartBlock() {
   m_RowsAreWanted = m_TableId > 0 && m_Sink.WantsRows(m_TableId);
   m_Rows.clear();
-  m_JoinedRows = {};
+  m_JoinedRows.Clear();
   m_PendingText.clear();
   m_RowGoesOn = false;
 }

@@ -4,6 +4,8 @@
 #include "common/value_map.h"
 
 #include <cstdint>
+#include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -97,6 +99,22 @@ TEST(LookUpHash, TellsPrefixesAndQualifiersApart) {
   EXPECT_NE(LookUpHash(Text("J7")), LookUpHash(Text("K7")));
   EXPECT_NE(LookUpHash(Text("")), LookUpHash(Text("J")));
   EXPECT_NE(LookUpHash(QualifiedLabel{"7", "FRAME"}), LookUpHash(QualifiedLabel{"7", "AREA"}));
+}
+
+TEST(LookUpHash, SpreadsLabelsThatAreMadeToMeet) {
+  // The tail makes up for the difference of the prefixes in the hash of the standard library.
+  std::set<std::uint32_t> hashes;
+  int count = 0;
+  for (int number = 0; count < 1'000; ++number) {
+    const std::string prefix = "P" + std::to_string(number) + "_";
+    const auto tail = 4'000'000'000U - static_cast<std::uint32_t>(std::hash<std::string>()(prefix));
+    if (tail < 1'000'000'000U) {
+      const std::string digits = std::to_string(tail);
+      hashes.insert(LookUpHash(Text(prefix + std::string(9 - digits.size(), '0') + digits)));
+      ++count;
+    }
+  }
+  EXPECT_GT(hashes.size(), 990U);
 }
 
 TEST(LookUpHash, TakesLabelsOfAnyNumberOfDigits) {

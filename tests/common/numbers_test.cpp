@@ -123,6 +123,61 @@ TEST(ParseReal, AgreesWithAtofOnRandomNumbers) {
   }
 }
 
+TEST(ParseWholeReal, TakesANumberToItsLastCharacter) {
+  for (const char* text : {"0",
+                           "-0",
+                           "7",
+                           "-7",
+                           "5.",
+                           ".5",
+                           "-.5",
+                           "-5.",
+                           "007",
+                           "12.50",
+                           "0.1",
+                           "-0.3",
+                           "123456.789",
+                           "1.23456789012345",
+                           "12345678901234",
+                           "123456789012345",
+                           "1234567890123456",
+                           "12345678901234567",
+                           "0.00000000000001",
+                           "0.000000000000001",
+                           "0.3000000000000000444",
+                           "9007199254740993",
+                           "-999999999999999",
+                           "1e5",
+                           "-2.5E-3",
+                           "1.7976931348623157e308"}) {
+    double value = 4.25;
+    EXPECT_TRUE(ParseWholeReal(text, value)) << text;
+    EXPECT_EQ(value, std::atof(text)) << text;
+    EXPECT_EQ(std::signbit(value), std::signbit(std::atof(text))) << text;
+  }
+}
+
+TEST(ParseWholeReal, LeavesEverythingElse) {
+  for (const char* text : {"", "-", ".", "-.", "+5", " 5", "5 ", "1.2.3", "--1", "0x10", "1,5",
+                           "\"5\"", "5m", "1e999", "e5"}) {
+    double value = 4.25;
+    EXPECT_FALSE(ParseWholeReal(text, value)) << text;
+    EXPECT_EQ(value, 4.25) << text;
+  }
+}
+
+TEST(ParseWholeReal, AgreesWithAtofOnRandomDigits) {
+  std::mt19937_64 random(5);
+  for (int count = 0; count < 100'000; ++count) {
+    std::string text = std::to_string(random()).substr(0, 1 + random() % 18);
+    text.insert(random() % (text.size() + 1), ".");
+    text.insert(0, random() % 2 == 0 ? "-" : "");
+    double value = 0.0;
+    ASSERT_TRUE(ParseWholeReal(text, value)) << text;
+    ASSERT_EQ(value, std::atof(text.c_str())) << text;
+  }
+}
+
 TEST(ParseInteger, ReadsWhatAtoiReadsAndKeepsTheNearestOfWhatDoesNotFit) {
   EXPECT_EQ(ParseInteger("12"), 12);
   EXPECT_EQ(ParseInteger(" -12x"), -12);

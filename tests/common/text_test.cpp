@@ -37,6 +37,14 @@ TEST(TextStore, KeepsTextsLargerThanItsBlocks) {
   EXPECT_EQ(behind, "behind");
 }
 
+TEST(TextStore, TakesTextsAgainWhenCleared) {
+  TextStore store;
+  store.Keep("GLOBAL");
+  store.Clear();
+  EXPECT_EQ(store.Keep("GLOBAL"), "GLOBAL");
+  EXPECT_EQ(store.Keep("Local"), "Local");
+}
+
 TEST(TextStore, KeepsTheEmptyTextAndBytesOfAnyKind) {
   TextStore store;
   EXPECT_EQ(store.Keep(""), "");

@@ -101,6 +101,44 @@ TEST(LiteralTwin, WritesTheSameForEveryKindOfLargeModel) {
   ExpectTheSame(models);
 }
 
+/// Joints and frames of which the last hundred bear the labels of the first: so many rows that keys
+/// of one label share a bucket.
+std::string ModelOfRepeatedLabels(const std::string& prefix) {
+  constexpr int kRows = 10'101;
+  const auto label = [&](int row) { return prefix + std::to_string((row - 1) % 10'001 + 1); };
+  const auto table = [&](const std::string& title, const auto& contentOf) {
+    std::string rows = "TABLE:  \"" + title + "\"\n";
+    for (int row = 1; row <= kRows; ++row) {
+      rows.append("   ").append(contentOf(row)).append("\n");
+    }
+    return rows + " \n";
+  };
+  return "File repeated.s2k\n \n" +
+         table("JOINT COORDINATES",
+               [&](int row) { return "Joint=" + label(row) + "   XorR=" + std::to_string(row); }) +
+         table("CONNECTIVITY - FRAME",
+               [&](int row) {
+                 return "Frame=" + label(row) + "   JointI=" + label(row) +
+                        "   JointJ=" + label(row % 50 + 1);
+               }) +
+         table("FRAME SECTION ASSIGNMENTS",
+               [&](int row) {
+                 // Every third has a section that is not there.
+                 return "Frame=" + label(row) + "   AnalSect=S" +
+                        std::to_string(row % 3 == 0 ? 99 : row % 7);
+               }) +
+         "TABLE:  \"FRAME SECTION PROPERTIES 1 - GENERAL\"\n"
+         "   SectionName=S1   Shape=Pipe   t3=0.5   AMod=2\n"
+         "   SectionName=S2   Shape=Circle   t3=0.4   JMod=3\n"
+         "   SectionName=S4   Shape=Rectangular   t3=0.5   t2=0.3\n"
+         "   SectionName=S2   Shape=Box/Tube   t3=0.6   t2=0.2\n"
+         " \nEND TABLE DATA\n";
+}
+
+TEST(LiteralTwin, WritesTheSameForLabelsThatComeAgainInTheirBucket) {
+  ExpectTheSame({{"numbers", ModelOfRepeatedLabels("")}, {"names", ModelOfRepeatedLabels("J")}});
+}
+
 TEST(LiteralTwin, WritesTheSameForEveryExample) {
   Models models;
   for (const auto& file : std::filesystem::directory_iterator(S2K2NGT_EXAMPLES)) {
