@@ -26,7 +26,7 @@ class CConverter::Impl : private TableSink {
  public:
   explicit Impl(Platform& platform) : m_Messages(platform), m_PrgsDlg(platform) {}
 
-  int Run(const std::string& path);
+  int Run(const char* pszPath);
   const Diagnostic& Failure() const { return m_Failure; }
   std::uint64_t RowCount() const { return m_Model.RowCount(); }
 
@@ -50,9 +50,9 @@ class CConverter::Impl : private TableSink {
   Diagnostic m_Failure;
 };
 
-int CConverter::Impl::Run(const std::string& path) {
+int CConverter::Impl::Run(const char* pszPath) {
   try {
-    return RunUncaught(path);
+    return RunUncaught(pszPath);
   } catch (const MemoryException&) {
     m_Failure.Reason = "there is not enough memory for this model";
     throw;
@@ -186,7 +186,8 @@ CConverter::CConverter(Platform& platform) : m_Platform(platform) {}
 CConverter::~CConverter() = default;
 
 int CConverter::Run(const char* pszPath) {
-  // Nothing survives from one run to the next.
+  // Nothing survives from one run to the next, whatever becomes of that.
+  m_Impl.reset();
   m_Impl = std::make_unique<Impl>(m_Platform);
   return m_Impl->Run(pszPath);
 }
