@@ -1,0 +1,52 @@
+// Stops a run at each of its steps in turn.
+#include "support/conversion_run.h"
+#include "support/temporary_folder.h"
+
+#include <s2k2ngt/converter.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class EveryStop : public testing::TestWithParam<const char*> {};
+
+TEST_P(EveryStop, LeavesTheEarlierOutputOrTheBeginningOfTheNewOne) {
+  const TemporaryFolder folder;
+  const std::string path = folder.FileName("model.s2k");
+  const std::string output = folder.FileName("model.ngt");
+  WriteFile(path, ReadFile(std::string(S2K2NGT_EXAMPLES) + "/" + GetParam() + ".s2k"));
+  ScriptedPlatform whole;
+  ASSERT_EQ(s2k2ngt::CConverter(whole).Run(path.c_str()), s2k2ngt::kConverted);
+  const std::string wanted = ReadFile(output);
+
+  for (int step = 1; step <= whole.Steps; ++step) {
+    SCOPED_TRACE(step);
+    WriteFile(output, "from before");
+    ScriptedPlatform platform;
+    platform.StopAtStep = step;
+    s2k2ngt::CConverter converter(platform);
+    ASSERT_EQ(converter.Run(path.c_str()), s2k2ngt::kStopped);
+    ASSERT_EQ(platform.Steps, step);
+    ASSERT_EQ(platform.WindowsOpen, 0);
+    ASSERT_EQ(converter.Failure().Reason, "");
+    if (converter.Failure().Phase == s2k2ngt::kWriting) {
+      const std::string part = ReadFile(output);
+      ASSERT_TRUE(wanted.starts_with(part));
+      ASSERT_LT(part.size(), wanted.size());
+    } else {
+      ASSERT_EQ(ReadFile(output), "from before");
+    }
+  }
+
+  ScriptedPlatform again;
+  ASSERT_EQ(s2k2ngt::CConverter(again).Run(path.c_str()), s2k2ngt::kConverted);
+  EXPECT_EQ(ReadFile(output), wanted);
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, EveryStop,
+                         testing::Values("portal_frame", "office_building", "alphanumeric_labels",
+                                         "isolated_foundation", "highway_bridge", "seismic_frame"));
+
+}  // namespace
