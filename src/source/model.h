@@ -45,12 +45,6 @@ class CModel {
     return m_Tables.Of<Record>(buckets);
   }
 
-  /// Stores a copy of the record under the key, in the place of one that is there.
-  template <class Record>
-  void Add(std::uint32_t key, const Record& record) {
-    Rows<Record>().Insert(key, record);
-  }
-
   void Set(const ActiveDegreesOfFreedom& freedom) { m_ActiveDegreesOfFreedom = freedom; }
   void Set(const Units& units) { m_Units = units; }
   const ActiveDegreesOfFreedom& Freedom() const { return m_ActiveDegreesOfFreedom; }

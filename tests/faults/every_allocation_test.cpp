@@ -1,4 +1,5 @@
 // Lets the allocations of a run fail, one in each run, until a run comes through.
+#include "support/examples.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
@@ -77,13 +78,13 @@ std::optional<s2k2ngt::Diagnostic> RunWithFailure(const std::string& path, std::
   return failure;
 }
 
-class EveryAllocation : public testing::TestWithParam<const char*> {};
+class EveryAllocation : public testing::TestWithParam<std::string> {};
 
 TEST_P(EveryAllocation, MayFailAndLeavesNothingBehind) {
   const TemporaryFolder folder;
   const std::string path = folder.FileName("model.s2k");
   const std::string output = folder.FileName("model.ngt");
-  WriteFile(path, ReadFile(std::string(S2K2NGT_EXAMPLES) + "/" + GetParam() + ".s2k"));
+  WriteFile(path, Example(GetParam()));
   ASSERT_FALSE(RunWithFailure(path, 0).has_value());
   const std::string wanted = ReadFile(output);
 
@@ -113,8 +114,6 @@ TEST_P(EveryAllocation, MayFailAndLeavesNothingBehind) {
   EXPECT_EQ(ReadFile(output), wanted);
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, EveryAllocation,
-                         testing::Values("portal_frame", "office_building", "alphanumeric_labels",
-                                         "isolated_foundation", "highway_bridge", "seismic_frame"));
+INSTANTIATE_TEST_SUITE_P(Examples, EveryAllocation, testing::ValuesIn(ExampleNames()));
 
 }  // namespace

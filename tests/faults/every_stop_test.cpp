@@ -1,5 +1,6 @@
 // Stops a run at each of its steps in turn.
 #include "support/conversion_run.h"
+#include "support/examples.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
@@ -10,13 +11,13 @@
 
 namespace {
 
-class EveryStop : public testing::TestWithParam<const char*> {};
+class EveryStop : public testing::TestWithParam<std::string> {};
 
 TEST_P(EveryStop, LeavesTheEarlierOutputOrTheBeginningOfTheNewOne) {
   const TemporaryFolder folder;
   const std::string path = folder.FileName("model.s2k");
   const std::string output = folder.FileName("model.ngt");
-  WriteFile(path, ReadFile(std::string(S2K2NGT_EXAMPLES) + "/" + GetParam() + ".s2k"));
+  WriteFile(path, Example(GetParam()));
   ScriptedPlatform whole;
   ASSERT_EQ(s2k2ngt::CConverter(whole).Run(path.c_str()), s2k2ngt::kConverted);
   const std::string wanted = ReadFile(output);
@@ -45,8 +46,6 @@ TEST_P(EveryStop, LeavesTheEarlierOutputOrTheBeginningOfTheNewOne) {
   EXPECT_EQ(ReadFile(output), wanted);
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, EveryStop,
-                         testing::Values("portal_frame", "office_building", "alphanumeric_labels",
-                                         "isolated_foundation", "highway_bridge", "seismic_frame"));
+INSTANTIATE_TEST_SUITE_P(Examples, EveryStop, testing::ValuesIn(ExampleNames()));
 
 }  // namespace

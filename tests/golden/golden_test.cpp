@@ -1,13 +1,12 @@
 #include "support/conversion_run.h"
+#include "support/examples.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -40,25 +39,13 @@ std::string KeysShown(const ScriptedPlatform& platform) {
 
 TEST_P(GoldenConversion, GivesTheExpectedBytesAndMessages) {
   const std::string name = GetParam();
-  fs::copy_file(fs::path(S2K2NGT_EXAMPLES) / (name + ".s2k"), name + ".s2k");
+  WriteFile(name + ".s2k", Example(name));
   ScriptedPlatform platform;
   s2k2ngt::CConverter converter(platform);
   ASSERT_EQ(converter.Run((name + ".s2k").c_str()), s2k2ngt::kConverted);
   const fs::path golden(S2K2NGT_GOLDEN);
   EXPECT_EQ(ReadFile(name + ".ngt"), ReadFile((golden / (name + ".ngt")).string()));
   EXPECT_EQ(KeysShown(platform), ReadFile((golden / (name + ".messages")).string()));
-}
-
-/// The names of all example models.
-std::vector<std::string> ExampleNames() {
-  std::vector<std::string> names;
-  for (const fs::directory_entry& file : fs::directory_iterator(S2K2NGT_EXAMPLES)) {
-    if (file.path().extension() == ".s2k") {
-      names.push_back(file.path().stem().string());
-    }
-  }
-  std::ranges::sort(names);
-  return names;
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, GoldenConversion, testing::ValuesIn(ExampleNames()),

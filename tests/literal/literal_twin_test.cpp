@@ -1,5 +1,6 @@
 #include "run/sections.h"
 #include "support/command_run.h"
+#include "support/examples.h"
 #include "support/random_model.h"
 #include "support/temporary_folder.h"
 
@@ -141,10 +142,8 @@ TEST(LiteralTwin, WritesTheSameForLabelsThatComeAgainInTheirBucket) {
 
 TEST(LiteralTwin, WritesTheSameForEveryExample) {
   Models models;
-  for (const auto& file : std::filesystem::directory_iterator(S2K2NGT_EXAMPLES)) {
-    if (file.path().extension() == ".s2k") {
-      models[file.path().stem()] = ReadFile(file.path());
-    }
+  for (const std::string& name : ExampleNames()) {
+    models[name] = Example(name);
   }
   ASSERT_GE(models.size(), 6U);
   ExpectTheSame(models);

@@ -413,10 +413,10 @@ TEST(LostLinkProperties, EachCheckAsksForTheRowsOfItsTable) {
     WriterRun run;
     run.Target.Add(1, T_NGT_NLPR_D{});
     if (c.HasMultiLinear) {
-      run.Source.Add(1, T_LPMT_D{});
+      run.Source.Rows<T_LPMT_D>().Insert(1, {});
     }
     if (c.HasKinematic) {
-      run.Source.Add(1, T_LPPK_D{});
+      run.Source.Rows<T_LPPK_D>().Insert(1, {});
     }
     run.Write([](Conversion& conversion, LineWriter& out) {
       CheckMultiLinearProperties(conversion);

@@ -190,7 +190,7 @@ TEST_F(ThicknessWriterTest, WithoutThicknessesAllIsSilent) {
 TEST_F(ThicknessWriterTest, RowsOfTheStiffnessTableSetTheFlagOfTheModifiers) {
   EXPECT_TRUE(s2k2ngt::CheckAreaModifiers(m_Run));
   EXPECT_FALSE(m_Warnings.bAreaModifiersLost);
-  m_Source.Add(1, s2k2ngt::T_ASMD_D{});
+  m_Source.Rows<s2k2ngt::T_ASMD_D>().Insert(1, {});
   EXPECT_TRUE(s2k2ngt::CheckAreaModifiers(m_Run));
   EXPECT_TRUE(m_Warnings.bAreaModifiersLost);
 }
