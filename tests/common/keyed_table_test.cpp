@@ -3,6 +3,7 @@
 #include "common/text.h"
 #include "support/chained_hash.h"
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -180,6 +181,7 @@ TEST(KeyedTableIndex, AgreesWithAWalkOnRandomTables) {
   std::uniform_int_distribution<std::size_t> anyLabel(0, labels.size() - 1);
   for (const std::uint32_t buckets : {17U, 10'001U}) {
     CKeyedTable<Record> table(buckets);
+    table.Reserve(100);  // fewer than come, and keys go beyond it
     for (const std::uint32_t key : RandomKeys(random, 1, 400)) {
       table.Insert(key, {.Label = labels[anyLabel(random)]});
       for (const std::string& label : labels) {
@@ -200,6 +202,9 @@ TEST(KeyedTableIndex, AgreesWithAWalkOnRandomTables) {
         }
         const auto all = table.AllWith<&Record::Label>(label);
         ASSERT_EQ(std::vector<std::uint32_t>(all.begin(), all.end()), positions);
+        std::ranges::sort(walked);
+        const auto keys = table.KeysWith<&Record::Label>(label);
+        ASSERT_EQ(std::vector<std::uint32_t>(keys.begin(), keys.end()), walked);
       }
     }
   }

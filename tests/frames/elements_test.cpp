@@ -1,6 +1,7 @@
 #include "support/conversion_run.h"
 
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -157,6 +158,30 @@ TABLE:  "FRAME SECTION ASSIGNMENTS"
   EXPECT_THAT(run.Lines("*ELEMENT"), ElementsAre("\t1,  BEAM,     3,     1,     1,     2,     0",
                                                  "\t2,  BEAM,     2,     2,     2,     3,     0",
                                                  "\t3,  BEAM,     1,     3,     4,     3,     0"));
+}
+
+TEST(FrameProperties, FrameTakesOverFromTheLaterOneInItsBucket) {
+  // The keys 1 and 10,002 share a bucket, which a walk goes through from the newest. Of the keys 2
+  // to 5 only that of 4 comes behind it.
+  std::string frames = "TABLE:  \"CONNECTIVITY - FRAME\"\n";
+  std::string assignments = " \nTABLE:  \"FRAME SECTION ASSIGNMENTS\"\n";
+  for (int frame = 1; frame <= 10'002; ++frame) {
+    const std::string label = "   Frame=" + std::to_string(frame);
+    frames += label + "\n";
+    assignments += label + "   AnalSect=" + (frame == 10'002 ? "BEAM" : "None") + "\n";
+  }
+  const std::vector<std::string> lines = Convert(frames + assignments + R"(
+TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
+   SectionName=BEAM   Shape=Pipe   t3=0.3
+)")
+                                             .Lines("*ELEMENT");
+  ASSERT_EQ(lines.size(), 10'002U);
+  EXPECT_EQ(lines.back(), "\t10002,  BEAM,     0,     1,     0,     0,     0");
+  EXPECT_EQ(lines[0], "\t1,  BEAM,     0,     1,     0,     0,     0");
+  EXPECT_EQ(lines[1], "\t2,  BEAM,     0,     0,     0,     0,     0");
+  EXPECT_EQ(lines[2], "\t3,  BEAM,     0,     0,     0,     0,     0");
+  EXPECT_EQ(lines[3], "\t4,  BEAM,     0,     1,     0,     0,     0");
+  EXPECT_EQ(lines[4], "\t5,  BEAM,     0,     0,     0,     0,     0");
 }
 
 TEST(FrameProperties, FirstFrameOfTheWalkWithoutASectionHasNumbersZero) {

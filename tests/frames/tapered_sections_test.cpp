@@ -187,6 +187,23 @@ TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
             "\t\t  0.4,    0,    0,    0,    0,    0,  0.9,    0,    0,    0,    0,    0");
 }
 
+TEST(TaperedSections, NameThatIsDroppedIsDroppedAgain) {
+  const ConversionRun run = Convert(R"(
+TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
+   SectionName=VAR   Shape=Nonprismatic
+   SectionName=VAR   Shape=Nonprismatic
+   SectionName=A   Shape=Circle   t3=0.3
+
+TABLE:  "FRAME SECTION PROPERTIES 5 - NONPRISMATIC"
+   SectionName=VAR   NumSegments=1   SegmentNum=1   StartSect=GONE   EndSect=GONE
+)");
+  // One section is there, number 3; so one number is printed, of which there is no section.
+  EXPECT_THAT(run.Lines("*SECTION"),
+              ElementsAre("\t1, DBUSER,      ,    CC,    SB, 2,     0,     0,     0,     0,     0,"
+                          "     0"));
+  EXPECT_THAT(run.Messages, ElementsAre("IDS_S2KV8_SECT_SSEC_Not_Define"));
+}
+
 TEST(TaperedSections, EachHasTheSegmentsOfItsName) {
   const ConversionRun run = Convert(R"(
 TABLE:  "FRAME SECTION PROPERTIES 1 - GENERAL"
