@@ -22,6 +22,6 @@ class Console {
 
  private:
   bool m_CanDraw = true;
-  unsigned m_CodePageBefore = 0;
-  unsigned long m_ModeBefore = 0;
+  [[maybe_unused]] unsigned m_CodePageBefore = 0;
+  [[maybe_unused]] unsigned long m_ModeBefore = 0;
 };

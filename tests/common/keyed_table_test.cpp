@@ -99,6 +99,34 @@ TEST(KeyedTable, KeysAtTheLimitsAreKept) {
   EXPECT_EQ(WalkedKeys(table), expected);
 }
 
+TEST(KeyedTable, KeyFarBeyondTheOthersIsStillFoundWhenTheyHaveCaughtUp) {
+  constexpr std::uint32_t kFar = 6'000'000;
+  constexpr std::uint32_t kMany = 1'600'000;
+  CKeyedTable<std::uint32_t> table(10'001);
+  table.Insert(kFar, 1);
+  for (std::uint32_t key = 1; key <= kMany; ++key) {
+    table.Insert(key, 2);
+  }
+  table.Insert(kFar + 1, 3);
+  ASSERT_NE(table.Find(kFar), nullptr);
+  EXPECT_EQ(*table.Find(kFar), 1U);
+  EXPECT_EQ(*table.Find(kMany), 2U);
+  EXPECT_EQ(*table.Find(kFar + 1), 3U);
+  EXPECT_EQ(table.Find(kFar - 1), nullptr);
+  EXPECT_EQ(table.Count(), kMany + 2);
+}
+
+TEST(KeyedTable, KeysUpToAReservedCountAreFoundHoweverFewTheyAre) {
+  constexpr std::uint32_t kReserved = 5'000'000;
+  CKeyedTable<std::uint32_t> table(10'001);
+  table.Reserve(kReserved);
+  table.Insert(kReserved, 1);
+  table.Insert(kReserved + 1, 2);
+  EXPECT_EQ(*table.Find(kReserved), 1U);
+  EXPECT_EQ(*table.Find(kReserved + 1), 2U);
+  EXPECT_EQ(table.Find(kReserved - 1), nullptr);
+}
+
 /// Keys as stages make them, and others.
 std::vector<std::uint32_t> RandomKeys(std::mt19937& random, int kind, std::size_t count) {
   std::vector<std::uint32_t> keys;
@@ -150,6 +178,13 @@ TEST(KeyedTableIndex, FindsTheFirstOfTheWalkAndNotOfTheFile) {
   EXPECT_EQ(table.FirstWith<&Record::Label>("A")->Key, 3U);
   EXPECT_EQ(table.FirstWith<&Record::Label>("B")->Key, 2U);
   EXPECT_FALSE(table.FirstWith<&Record::Label>("C").has_value());
+}
+
+TEST(KeyedTableIndex, OfAnEmptyTableFindsNothing) {
+  const CKeyedTable<Record> table(10'001);
+  EXPECT_FALSE(table.FirstWith<&Record::Label>("A").has_value());
+  EXPECT_THAT(table.AllWith<&Record::Label>("A"), IsEmpty());
+  EXPECT_THAT(table.KeysWith<&Record::Label>("A"), IsEmpty());
 }
 
 TEST(KeyedTableIndex, WithoutAMatchTheLastOfTheWalkStands) {

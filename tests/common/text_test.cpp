@@ -1,6 +1,7 @@
 #include "common/text.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -50,6 +51,14 @@ TEST(TextStore, KeepsTheEmptyTextAndBytesOfAnyKind) {
   EXPECT_EQ(store.Keep(""), "");
   const std::string bytes("\0\xFF\t\0", 4);
   EXPECT_EQ(store.Keep(bytes), bytes);
+}
+
+TEST(Case, IsThatOfPlainLettersAlone) {
+  EXPECT_EQ(ToUpper("azAZ@[`{09\xE4"), "AZAZ@[`{09\xE4");
+  for (const auto& [letter, lower] : {std::pair('A', 'a'), std::pair('Z', 'z'), std::pair('a', 'a'),
+                                      std::pair('@', '@'), std::pair('[', '[')}) {
+    EXPECT_EQ(ToLower(letter), lower);
+  }
 }
 
 }  // namespace

@@ -200,6 +200,18 @@ TEST(AxesMatrix, SquaredLengthBelowTheToleranceSpansNoPlane) {
   }
 }
 
+TEST(AxesMatrix, ThirdAxisTooShortSpansNoPlaneThoughTheOthersAreLongEnough) {
+  // Axis 1 is (0, 0, 1e-7), axis 2 is (1e-5, 0, 0), and axis 3 (0, 1e-12, 0).
+  const ConversionRun run =
+      Convert(Typical("   Joint=1   AdvanceAxes=Yes") +
+              Advanced("   Joint=1   LocalPlane=12   AxOption1=\"User Vector\"   "
+                       "PlOption1=\"User Vector\"   AxVecX=0   AxVecY=0   AxVecZ=1e-7   "
+                       "PlVecX=1000000000   PlVecY=0   PlVecZ=0") +
+              "TABLE:  \"JOINT SPRING ASSIGNMENTS 1 - UNCOUPLED\"\n"
+              "   Joint=1   CoordSys=GLOBAL   U1=3   U2=0   U3=2\n");
+  EXPECT_THAT(run.Lines("*SPRING"), ElementsAre("\t1,     3,     0,     2,     0,     0,     0,"));
+}
+
 TEST(AxesMatrix, AxesThatSpanNoPlaneLeaveAnIdentityToJointsOfEmptyLabel) {
   const std::string spring = R"(
 TABLE:  "JOINT SPRING ASSIGNMENTS 1 - UNCOUPLED"

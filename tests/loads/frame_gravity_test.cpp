@@ -11,6 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 /// Sections of concrete, 25 heavy, and of steel, 77 heavy: BEAM weighs 3.75 and TIE 0.77 per
 /// length, DEEP 7.5.
@@ -71,6 +72,12 @@ TEST(FrameGravity, RowGivesALineForEachMultiplierThatIsNotZero) {
   EXPECT_THAT(
       ConvertGravity("BEAM", {"MultiplierX=0.1   MultiplierZ=0.2"}).LoadLines("DEAD", "*BEAMLOAD"),
       ElementsAre(Line("1", "GX", "0.375", "0.375"), Line("1", "GZ", " 0.75", " 0.75")));
+}
+
+TEST(FrameGravity, LoadsOfOneSectionHaveTheSameWeight) {
+  EXPECT_THAT(
+      ConvertGravity("BEAM", {"MultiplierX=2", "MultiplierX=1"}).LoadLines("DEAD", "*BEAMLOAD"),
+      UnorderedElementsAre(Line("1", "GX", "  7.5", "  7.5"), Line("1", "GX", " 3.75", " 3.75")));
 }
 
 TEST(FrameGravity, MultiplierUpToTheToleranceIsNone) {

@@ -345,6 +345,20 @@ TEST(LinkProperties, ComeInTheWalkOfTheirNumbers) {
                                       "\tG1,   GAP,     2,    NO,     0,     0,      "));
 }
 
+TEST(LinkProperties, ThatARowRepeatsComeAgainWithTheWeightOfTheRow) {
+  // Rows 1 and 2 are walked in the order 2, 1 and get the numbers 1 and 2, walked 2, 1.
+  const ConversionRun run = Convert(std::string(kLink) + kGeneral +
+                                    "   Link=D1   LinkType=Damper   Weight=1\n"
+                                    "   Link=D1   LinkType=Damper   Weight=2\n\n" +
+                                    kDamper + "   Link=D1   DOF=U1   NonLinear=No   TransKE=8\n");
+  const std::vector<std::string> lines = run.Lines("*NL-PROP");
+  ASSERT_EQ(lines.size(), 14U);
+  EXPECT_EQ(lines[0], "\tD1,    VD,     1,    NO,     0,     0,      ");
+  EXPECT_EQ(lines[1], "\t\tYES,     8,    NO");
+  EXPECT_EQ(lines[7], "\tD1,    VD,     2,    NO,     0,     0,      ");
+  EXPECT_EQ(lines[8], "\t\tYES,     8,    NO");
+}
+
 TEST(LinkProperties, ThatAreLinearOrLostAreSkippedAndTakeNoNumber) {
   // Rows 1 to 4 are walked in the order 2, 4, 1, 3: D1 gets the number 1 and D2 the number 2, which
   // is walked first.

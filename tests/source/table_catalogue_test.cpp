@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -526,6 +527,10 @@ TEST(SourceTables, AreTheStoredTablesAndTheElevenThatNoTitleFills) {
     EXPECT_EQ(std::ranges::count_if(SourceTables(), named), 1) << table.Name;
     EXPECT_EQ(BucketsOfSourceTable(table.Name), table.Buckets) << table.Name;
   }
+}
+
+TEST(SourceTables, OfARecordThatIsNotAmongThemHaveNoBuckets) {
+  EXPECT_THROW(BucketsOfSourceTable("T_NONE_D"), std::logic_error);
 }
 
 }  // namespace
