@@ -154,20 +154,15 @@ int ConvertFiles(const CommandOptions& options) {
     oneFailed = oneFailed || outcome.Result == s2k2ngt::kFailed;
     oneStopped = oneStopped || outcome.Result == s2k2ngt::kStopped;
   }
-  if (!std::cout) {
-    std::cerr << "s2k2ngt: cannot write to standard output\n";
-    return kOneFailed;
-  }
   if (oneFailed) {
     return kOneFailed;
   }
   return oneStopped ? kOneStopped : kAllConverted;
 }
 
-int ListMessages() {
+void ListMessages() {
   for (std::size_t position = 0; position < s2k2ngt_message_count(); ++position) {
     const char* const key = s2k2ngt_message_key(position);
     std::cout << key << '\t' << s2k2ngt_message_text(key) << '\n';
   }
-  return std::cout.flush() ? kAllConverted : kOneFailed;
 }

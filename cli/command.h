@@ -21,4 +21,4 @@ inline constexpr int kWrongUsage = 64;
 int ConvertFiles(const CommandOptions& options);
 
 /// Prints the message keys and their texts.
-int ListMessages();
+void ListMessages();

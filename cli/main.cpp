@@ -68,7 +68,8 @@ int Run(std::vector<std::string> words, const Console& console) {
         options.NoProgress = true;
         break;
       case ListAllMessages:
-        return ListMessages();
+        ListMessages();
+        return kAllConverted;
       case Help:
         std::cout << kHelp;
         return kAllConverted;
@@ -93,7 +94,12 @@ int Run(std::vector<std::string> words, const Console& console) {
 int main(int argc, char** argv) {
   try {
     const Console console;
-    return Run(CommandLineWords(argc, argv), console);
+    const int status = Run(CommandLineWords(argc, argv), console);
+    if (!std::cout.flush()) {
+      std::cerr << "s2k2ngt: cannot write to standard output\n";
+      return kOneFailed;
+    }
+    return status;
   } catch (const std::exception& exception) {
     std::cerr << "s2k2ngt: " << exception.what() << '\n';
     return kOneFailed;

@@ -46,7 +46,8 @@ SourceFile ReadSourceFile(const std::string& path) {
     source.Bytes = std::move(larger);
   }
   if (std::ferror(file.get()) != 0) {
-    throw FileException("Cannot read input file", errno, path);
+    const int systemError = errno;  // making the exception may change it
+    throw FileException("Cannot read input file", systemError, path);
   }
   return source;
 }

@@ -28,6 +28,9 @@ void OutputFile::Close() {
   }
 }
 
-void OutputFile::Fail(const char* what) const { throw FileException(what, errno, m_Path); }
+void OutputFile::Fail(const char* what) const {
+  const int systemError = errno;  // making the exception may change it
+  throw FileException(what, systemError, m_Path);
+}
 
 }  // namespace s2k2ngt

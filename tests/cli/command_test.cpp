@@ -1,3 +1,4 @@
+#include "cli/command_fixture.h"
 #include "support/command_run.h"
 #include "support/conversion_run.h"
 #include "support/temporary_folder.h"
@@ -20,31 +21,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
-
-const std::string kOneJoint = FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=1   XorR=2\n");
-
-class CommandTest : public testing::Test {
- protected:
-  CommandRun Call(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), S2K2NGT_COMMAND);
-    return RunCommand({.Words = arguments, .Folder = m_Folder.Path()});
-  }
-  void Write(const std::string& name, const std::string& bytes) {
-    WriteFile(m_Folder.FileName(name), bytes);
-  }
-  bool Exists(const std::string& name) { return std::filesystem::exists(m_Folder.Path() / name); }
-
-  TemporaryFolder m_Folder;
-};
-
-std::vector<json> JsonLines(const std::string& out) {
-  std::vector<json> objects;
-  std::istringstream lines(out);
-  for (std::string line; std::getline(lines, line);) {
-    objects.push_back(json::parse(line));
-  }
-  return objects;
-}
 
 TEST_F(CommandTest, ConvertsBesideTheInputAndTellsOnStandardError) {
   Write("tower.s2k", kOneJoint);
@@ -142,8 +118,16 @@ TEST_F(CommandTest, InputIsNeverReplacedByItsOutput) {
 TEST_F(CommandTest, LinkToTheInputIsNotReplacedEither) {
   Write("tower.s2k", kOneJoint);
   std::filesystem::create_symlink("tower.s2k", m_Folder.Path() / "tower.ngt");
-  EXPECT_EQ(Call({"tower.s2k"}).Status, 2);
-  EXPECT_EQ(ReadFile(m_Folder.FileName("tower.s2k")), kOneJoint);
+  Write("mast.s2k", kOneJoint);
+  std::filesystem::create_hard_link(m_Folder.Path() / "mast.s2k", m_Folder.Path() / "mast.ngt");
+  Write("pylon.ngt", kOneJoint);
+  std::filesystem::create_symlink("pylon.ngt", m_Folder.Path() / "pylon.s2k");
+  for (const std::string name : {"tower.s2k", "mast.s2k", "pylon.s2k"}) {
+    const CommandRun run = Call({name});
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_THAT(run.Err, HasSubstr(name + ": the output would replace the input"));
+    EXPECT_EQ(ReadFile(m_Folder.FileName(name)), kOneJoint);
+  }
 }
 
 TEST_F(CommandTest, FailureOfOneFileDoesNotStopTheRest) {
@@ -204,9 +188,7 @@ TEST_F(CommandTest, InputTooLargeForTheMemoryIsToldInWords) {
   // A file with nothing in it but its size.
   Write("vast.s2k", "");
   std::filesystem::resize_file(m_Folder.Path() / "vast.s2k", std::uintmax_t{1} << 36U);
-  const CommandRun run = RunCommand(
-      {.Words = {"/bin/sh", "-c", "ulimit -v 2000000; exec " S2K2NGT_COMMAND " --json vast.s2k"},
-       .Folder = m_Folder.Path()});
+  const CommandRun run = CallInShell("ulimit -v 2000000; exec $S2K2NGT --json vast.s2k");
   EXPECT_EQ(run.Status, 2);
   EXPECT_EQ(JsonLines(run.Out).at(0)["error"],
             "vast.s2k: there is not enough memory for this model");

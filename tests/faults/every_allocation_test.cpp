@@ -1,5 +1,6 @@
 // Lets the allocations of a run fail, one in each run, until a run comes through.
 #include "support/examples.h"
+#include "support/open_files.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
@@ -8,7 +9,6 @@
 
 #include <cstddef>
 #include <cstdlib>
-#include <filesystem>
 #include <new>
 #include <optional>
 #include <string>
@@ -52,11 +52,6 @@ class QuietPlatform : public s2k2ngt::Platform {
 
   int WindowsOpen = 0;
 };
-
-std::ptrdiff_t OpenFiles() {
-  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
-                       std::filesystem::directory_iterator());
-}
 
 /// Where a run ended one of whose allocations failed; nothing when it came through.
 std::optional<s2k2ngt::Diagnostic> RunWithFailure(const std::string& path, std::size_t allocation) {

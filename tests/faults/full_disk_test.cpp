@@ -1,5 +1,6 @@
 // Lets the disk be full at one place of the output after the other.
 #include "support/conversion_run.h"
+#include "support/large_model.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
@@ -37,14 +38,6 @@ class FileSizeLimit {
   rlimit m_Before{};
 };
 
-std::string ManyJoints() {
-  std::string tables = "File many.s2k\n \nTABLE:  \"JOINT COORDINATES\"\n";
-  for (int joint = 1; joint <= 60'000; ++joint) {
-    tables += "   Joint=" + std::to_string(joint) + "   XorR=" + std::to_string(joint) + "\n";
-  }
-  return tables + " \nEND TABLE DATA\n";
-}
-
 /// The exception of a run on a disk that is full behind so many bytes of the output; nothing when
 /// they are enough.
 std::optional<s2k2ngt::FileException> RunOnFullDisk(const std::string& path, std::size_t size) {
@@ -63,9 +56,9 @@ std::optional<s2k2ngt::FileException> RunOnFullDisk(const std::string& path, std
 
 TEST(FullDisk, IsToldWhereverTheOutputEnds) {
   const TemporaryFolder folder;
-  const std::string path = folder.FileName("many.s2k");
-  const std::string output = folder.FileName("many.ngt");
-  WriteFile(path, ManyJoints());
+  const std::string path = folder.FileName("model.s2k");
+  const std::string output = folder.FileName("model.ngt");
+  WriteFile(path, LargeModel());
   constexpr std::size_t kNoLimit = std::size_t{1} << 40U;
   ASSERT_FALSE(RunOnFullDisk(path, kNoLimit).has_value());
   const std::size_t size = ReadFile(output).size();
