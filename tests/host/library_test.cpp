@@ -88,13 +88,16 @@ TEST(Library, ExportsItsEntryPointsUnderTheirNames) {
   }
 }
 
+/// What the entry points return when no file is chosen.
+constexpr const char* kDismissed =
+    "ConvertFile 1\n"
+    "ConvertFile2 1 as it was\n"
+    "s2k2ngt_convert_chosen 1 as it was\n"
+    "s2k2ngt_convert_chosen 1\n";
+
 TEST(Library, EntryPointsWithoutATerminalToAskOnEndAsDismissed) {
   const CommandRun run = RunCommand({.Words = {S2K2NGT_ENTRY_POINT_HOST}});
-  EXPECT_EQ(run.Out,
-            "ConvertFile 1\n"
-            "ConvertFile2 1 as it was\n"
-            "s2k2ngt_convert_chosen 1 as it was\n"
-            "s2k2ngt_convert_chosen 1\n");
+  EXPECT_EQ(run.Out, kDismissed);
 }
 
 TEST(Library, EntryPointsAskForTheFileOnATerminal) {
@@ -112,6 +115,15 @@ TEST(Library, EntryPointsAskForTheFileOnATerminal) {
             "the buffer for the path of the output is too small\n"
             "s2k2ngt_convert_chosen -1\n");
   EXPECT_THAT(run.Err, testing::HasSubstr("There is no file no-such-file"));
+}
+
+TEST(Library, EntryPointsEndAsDismissedWhenATerminalNamesNoFile) {
+  // An empty line, and the end of the input.
+  for (const char* input : {"\n\n\n\n", "\x04\x04\x04\x04"}) {
+    const CommandRun run =
+        RunCommand({.Words = {S2K2NGT_ENTRY_POINT_HOST}, .OnTerminal = true, .Input = input});
+    EXPECT_EQ(run.Out, kDismissed);
+  }
 }
 
 TEST(Library, LoadsTheCatalogueThatLiesBesideIt) {

@@ -3,6 +3,7 @@
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
 #include "plates/areas.h"
+#include "plates/solids.h"
 #include "run/element_section.h"
 #include "support/writer_run.h"
 
@@ -59,6 +60,15 @@ TEST(UnsetWarnings, OfAreaModifiersStaysSilentWithoutThicknesses) {
   run.Warnings.bAreaModifiersLost = true;
   run.Target.bAreaPropertyLost = true;
   EXPECT_EQ(run.Write(WriteThicknesses), "");
+  EXPECT_THAT(run.Messages, IsEmpty());
+}
+
+TEST(UnsetWarnings, OfLocalAxesStaySilent) {
+  // Conversions of areas and of solids always set them.
+  WriterRun run;
+  run.Target.Add(1, T_NGT_PLAT_D{});
+  run.Target.Add(1, T_NGT_SOLD_D{});
+  EXPECT_NE(run.Write(WriteElements), "");
   EXPECT_THAT(run.Messages, IsEmpty());
 }
 
