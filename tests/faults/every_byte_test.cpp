@@ -148,6 +148,7 @@ class ChangedFile {
 
 TEST(EveryTable, HasARowInOneOfTheModels) {
   std::set<int> missing = IdsWithAnOutcome();
+  ASSERT_GT(missing.size(), 100U);
   for (const std::string& name : ExampleNames()) {
     for (const int id : IdsIn(Example(name))) {
       missing.erase(id);
@@ -169,14 +170,21 @@ TEST(EveryTable, LeadsToEverySectionOfTheOutput) {
   }
 }
 
+// With sanitizers a run takes several times as long.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr std::size_t kCutStride = 3;
+#else
+constexpr std::size_t kCutStride = 1;
+#endif
+
 class EveryByte : public testing::TestWithParam<std::string> {};
 
 TEST_P(EveryByte, MayBeTheLast) {
   const std::string bytes = Example(GetParam());
   ChangedFile file(bytes);
-  for (std::size_t size = bytes.size(); size > 0; --size) {
-    SCOPED_TRACE(size);
-    file.Cut(size - 1);
+  for (std::size_t lost = 1; lost <= bytes.size(); lost += kCutStride) {
+    SCOPED_TRACE(lost);
+    file.Cut(bytes.size() - lost);
     file.Convert();
     ASSERT_FALSE(HasFailure());
   }
