@@ -6,10 +6,13 @@
 #include <s2k2ngt/converter.h>
 #include <s2k2ngt/s2k2ngt.h>
 
+#include <array>
+#include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -66,6 +69,25 @@ bool WouldReplaceInput(const std::string& input, const std::string& output) {
                                      noSuchFile);
 }
 
+/// Nothing in such a file would be known, and its output would be empty without a word.
+bool IsUtf16(const std::string& path) {
+  std::error_code noSuchFile;
+  if (!std::filesystem::is_regular_file(s2k2ngt::NativePath(path), noSuchFile)) {
+    return false;  // a pipe gives its bytes once
+  }
+  struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+  };
+  const std::unique_ptr<std::FILE, Closer> file(s2k2ngt::OpenFile(path, "rb"));
+  std::array<unsigned char, 2> first{};
+  if (file == nullptr || std::fread(first.data(), 1, first.size(), file.get()) < first.size()) {
+    return false;
+  }
+  const bool hasMark =
+      (first[0] == 0xFF && first[1] == 0xFE) || (first[0] == 0xFE && first[1] == 0xFF);
+  return hasMark || (first[0] == 0) != (first[1] == 0);
+}
+
 /// Which input of this call each output was written for.
 using WrittenOutputs = std::map<std::string, std::string>;
 
@@ -74,6 +96,10 @@ Outcome Convert(const std::string& file, const CommandOptions& options, WrittenO
   const std::string output = CConverter::OutputPath(file);
   if (WouldReplaceInput(file, output)) {
     outcome.Error = file + ": the output would replace the input; rename the input to end in .s2k";
+    return outcome;
+  }
+  if (IsUtf16(file)) {
+    outcome.Error = file + ": it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
     return outcome;
   }
   const auto [earlier, isNew] = written.try_emplace(output, file);

@@ -53,7 +53,7 @@ class S2K2NGT_API CConverter {
   CConverter(const CConverter&) = delete;
   CConverter& operator=(const CConverter&) = delete;
 
-  /// Reads, converts and writes. Returns a RunResult.
+  /// Reads, converts and writes. Returns a RunResult. A null path is as one of no file.
   ///
   /// A failure or stop before writing leaves an output file that is there as it was; one while
   /// writing leaves the new file as far as it was written, without its closing `*ENDDATA`. An input

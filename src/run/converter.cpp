@@ -52,7 +52,8 @@ class CConverter::Impl : private TableSink {
 
 int CConverter::Impl::Run(const char* pszPath) {
   try {
-    return RunUncaught(pszPath);
+    // No path is as one of no file.
+    return RunUncaught(pszPath == nullptr ? "" : pszPath);
   } catch (const MemoryException&) {
     m_Failure.Reason = "there is not enough memory for this model";
     throw;

@@ -130,6 +130,63 @@ TEST_F(CommandTest, LinkToTheInputIsNotReplacedEither) {
   }
 }
 
+/// Plain text in two bytes a character, the lower or the higher one first.
+std::string Utf16(const std::string& text, bool lowerFirst) {
+  std::string bytes;
+  for (const char character : text) {
+    bytes += lowerFirst ? std::string{character, '\0'} : std::string{'\0', character};
+  }
+  return bytes;
+}
+
+TEST_F(CommandTest, Utf16TextIsRefusedAndNothingWritten) {
+  for (const std::string& bytes :
+       {Utf16(kOneJoint, true), Utf16(kOneJoint, false), "\xFF\xFE" + Utf16(kOneJoint, true),
+        "\xFE\xFF" + Utf16(kOneJoint, false)}) {
+    SCOPED_TRACE(testing::PrintToString(bytes.substr(0, 4)));
+    Write("tower.s2k", bytes);
+    const CommandRun run = Call({"--json", "tower.s2k"});
+    EXPECT_EQ(run.Status, 2);
+    const std::string error =
+        "tower.s2k: it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
+    EXPECT_EQ(run.Err, "s2k2ngt: " + error + "\n");
+    EXPECT_EQ(JsonLines(run.Out).at(0)["result"], -1);
+    EXPECT_EQ(JsonLines(run.Out).at(0)["output"], nullptr);
+    EXPECT_EQ(JsonLines(run.Out).at(0)["error"], error);
+    EXPECT_FALSE(Exists("tower.ngt"));
+  }
+}
+
+TEST_F(CommandTest, Utf16TextLeavesAnEarlierOutput) {
+  Write("tower.s2k", "\xFF\xFE" + Utf16(kOneJoint, true));
+  Write("tower.ngt", "from before");
+  EXPECT_EQ(Call({"tower.s2k"}).Status, 2);
+  EXPECT_EQ(ReadFile(m_Folder.FileName("tower.ngt")), "from before");
+}
+
+TEST_F(CommandTest, FilesThatAreNotUtf16AreConverted) {
+  // With a mark of UTF-8, of bytes without a text, and too short for any mark.
+  for (const std::string& bytes : {"\xEF\xBB\xBF" + kOneJoint, std::string(2, '\0') + kOneJoint,
+                                   "\xFF" + kOneJoint, std::string("\xFF"), std::string()}) {
+    SCOPED_TRACE(testing::PrintToString(bytes.substr(0, 4)));
+    Write("tower.s2k", bytes);
+    EXPECT_EQ(Call({"tower.s2k"}).Status, 0);
+    EXPECT_TRUE(Exists("tower.ngt"));
+  }
+}
+
+TEST_F(CommandTest, PipeIsReadFromItsFirstByteOn) {
+  const std::string pipe = m_Folder.FileName("tower.s2k");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const CommandRun run =
+      RunCommand({.Words = {S2K2NGT_COMMAND, "--json", "tower.s2k"},
+                  .Folder = m_Folder.Path(),
+                  .WhileRunning = [&](pid_t) { std::ofstream(pipe) << kOneJoint; }});
+  EXPECT_EQ(run.Status, 0);
+  // Without its first bytes the first line would be a foreign one, and have a message.
+  EXPECT_EQ(JsonLines(run.Out).at(0)["messages"].size(), 1U);
+}
+
 TEST_F(CommandTest, FailureOfOneFileDoesNotStopTheRest) {
   Write("a.s2k", kOneJoint);
   Write("c.s2k", kOneJoint);

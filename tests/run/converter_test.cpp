@@ -1,18 +1,13 @@
 #include "support/conversion_run.h"
+#include "support/host_locale.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
 
 #include <cerrno>
 #include <clocale>
-#include <cstdlib>
 #include <filesystem>
-#include <locale>
 #include <stdexcept>
-
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
-#endif
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -107,6 +102,17 @@ TEST_F(RunTest, MissingInputShowsTheBuiltInTextAndLeavesTheWindowOpen) {
   EXPECT_EQ(m_Platform.WindowsOpen, 1);
   EXPECT_EQ(m_Converter.Failure().Describe("model.s2k"),
             "model.s2k: cannot open the input file: No such file or directory");
+}
+
+TEST_F(RunTest, NoPathIsAsOneOfNoFile) {
+  for (const char* const path : {static_cast<const char*>(nullptr), ""}) {
+    ScriptedPlatform platform;
+    CConverter converter(platform);
+    EXPECT_EQ(converter.Run(path), kFailed);
+    ASSERT_EQ(platform.Messages.size(), 1U);
+    EXPECT_EQ(platform.Messages[0].Text, "Cannot open input file!");
+    EXPECT_THAT(converter.Failure().Reason, StartsWith("cannot open the input file: "));
+  }
 }
 
 TEST_F(RunTest, FolderCannotBeOpenedAsAnInput) {
@@ -293,26 +299,8 @@ TEST(OutputPath, FileWithoutExtensionInAFolderWithADotIsWrittenBesideTheFolder) 
   EXPECT_TRUE(std::filesystem::exists(folder.FileName("models.ngt")));
 }
 
-/// A host that has set a locale with a decimal comma for the whole process.
-class DecimalCommaHost {
- public:
-  DecimalCommaHost() {
-    setenv("LOCPATH", S2K2NGT_TEST_LOCALES, 1);
-#if defined(__SANITIZE_ADDRESS__)
-    const __lsan::ScopedDisabler theSystemKeepsItsListOfLocaleFolders;
-#endif
-    m_Before = std::locale::global(std::locale("de_DE.UTF-8"));
-  }
-  ~DecimalCommaHost() { std::locale::global(m_Before); }
-  DecimalCommaHost(const DecimalCommaHost&) = delete;
-  DecimalCommaHost& operator=(const DecimalCommaHost&) = delete;
-
- private:
-  std::locale m_Before;
-};
-
 TEST(Locale, DecimalCommaOfTheHostChangesNoByte) {
-  const DecimalCommaHost host;
+  const HostLocale locale("de_DE.UTF-8");
   ASSERT_STREQ(std::localeconv()->decimal_point, ",");
   const ConversionRun run = Convert(R"(
 TABLE:  "JOINT COORDINATES"
