@@ -3,14 +3,15 @@
 namespace s2k2ngt {
 
 void LineWriter::Flush() {
-  m_File.Write({m_Buffer.data(), m_Used});
+  m_File.Write({m_Buffer.get(), m_Used});
   m_Used = 0;
 }
 
 void LineWriter::MakeRoom(std::size_t room) {
   Flush();
-  if (room > m_Buffer.size()) {
-    m_Buffer.resize(room);
+  if (room > m_Size) {
+    m_Buffer = std::make_unique_for_overwrite<char[]>(room);
+    m_Size = room;
   }
 }
 

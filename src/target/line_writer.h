@@ -9,9 +9,9 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 #include <type_traits>
-#include <vector>
 
 namespace s2k2ngt {
 
@@ -85,23 +85,24 @@ class LineFormat {
 /// the "C" locale. It adds nothing: newlines and separators are all in the formats.
 class LineWriter {
  public:
-  explicit LineWriter(OutputFile& file) : m_File(file), m_Buffer(kBufferSize) {}
+  explicit LineWriter(OutputFile& file)
+      : m_File(file), m_Buffer(std::make_unique_for_overwrite<char[]>(kBufferSize)) {}
 
   template <class... Arguments>
   void WriteLine(std::type_identity_t<LineFormat<std::remove_cvref_t<Arguments>...>> format,
                  const Arguments&... arguments) {
     const std::size_t room = (format.Room + ... + RoomOf(arguments));
-    if (room > m_Buffer.size() - m_Used) {
+    if (room > m_Size - m_Used) {
       MakeRoom(room);
     }
-    char* end = Put(m_Buffer.data() + m_Used, format.TextBefore);
+    char* end = Put(m_Buffer.get() + m_Used, format.TextBefore);
     [[maybe_unused]] std::size_t index = 0;
     [[maybe_unused]] const auto put = [&](const auto& argument) {
       const auto& directive = format.Directives[index++];
       end = Put(Pad(end, Put(end, argument), directive.Width), directive.TextBehind);
     };
     (put(arguments), ...);
-    m_Used = static_cast<std::size_t>(end - m_Buffer.data());
+    m_Used = static_cast<std::size_t>(end - m_Buffer.get());
   }
 
   /// Hands what is buffered to the file.
@@ -136,7 +137,8 @@ class LineWriter {
   void MakeRoom(std::size_t room);
 
   OutputFile& m_File;
-  std::vector<char> m_Buffer;
+  std::unique_ptr<char[]> m_Buffer;
+  std::size_t m_Size = kBufferSize;
   std::size_t m_Used = 0;
 };
 
