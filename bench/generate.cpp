@@ -409,6 +409,6 @@ int main(int count, char** words) {
     return EXIT_FAILURE;
   }
   SourceWriter out;
-  scenario->Write(out, std::atoi(words[2]));
+  scenario->Write(out, static_cast<int>(std::strtol(words[2], nullptr, 10)));
   return EXIT_SUCCESS;
 }

@@ -17,7 +17,8 @@ namespace {
 /// Far above what an input of a fuzzer's size takes, also with sanitizers on a busy machine.
 constexpr std::chrono::seconds kLongestRun{20};
 
-class QuietPlatform : public s2k2ngt::Platform {
+/// Shows nothing, and asks for a text in each message.
+class CheckingPlatform : public s2k2ngt::Platform {
  public:
   void ShowMessage(const std::string& /*key*/, const std::string& text) override {
     Require(!text.empty(), "a message without a text");
@@ -44,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string input = Folder().FileName("model.s2k");
   const std::string output = s2k2ngt::CConverter::OutputPath(input);
   WriteFile(input, {reinterpret_cast<const char*>(data), size});
-  QuietPlatform platform;
+  CheckingPlatform platform;
   s2k2ngt::CConverter converter(platform);
   const auto begin = std::chrono::steady_clock::now();
   try {

@@ -44,7 +44,12 @@ struct S2K2NGT_API Diagnostic {
 ///
 /// The output is written beside the input, under the name that OutputPath gives, and replaces a
 /// file that is there. Results do not depend on the process's locale. A driver owns the models of
-/// its last run; nothing of an earlier one survives. Drivers are independent of each other.
+/// its last run; nothing of an earlier one survives.
+///
+/// Drivers are independent of each other: their runs may go on in several threads at once, each
+/// with a platform of its own. A single driver is for one thread at a time. No two runs at once may
+/// write the same output. A message catalogue that a host brings is called on the threads of all
+/// runs. Relative paths begin in the working directory, which all threads have in common.
 class S2K2NGT_API CConverter {
  public:
   /// The platform must outlive the driver.

@@ -14,7 +14,8 @@ using CString = std::string;
 
 // The two functions that a host loads. Each asks the user for a .s2k file, converts it and shows
 // on the way what could not be carried over. Result: 0 converted, 1 dismissed or stopped by the
-// user, -1 failed. Exceptions go to the host, see exceptions.h.
+// user, -1 failed. Exceptions go to the host, see exceptions.h. A user is asked one thing at a
+// time: call neither while a call of one of them goes on.
 extern "C" {
 
 /// Converts without telling the output's path.

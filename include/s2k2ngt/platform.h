@@ -10,9 +10,10 @@ namespace s2k2ngt {
 /// All that a conversion needs of the machine that it runs on. A host that wants no window of ours
 /// derives its own and gives it to a CConverter; every operation but ShowMessage may stay empty.
 ///
-/// All operations are called on the thread of the run. Texts are single bytes, passed through as
-/// they stand in the file. An exception that an operation throws ends the run and goes to the host,
-/// but for one of a CloseProgress that comes when the driver goes.
+/// All operations are called on the thread of the run; a platform that several drivers have is
+/// called on the threads of all their runs. Texts are single bytes, passed through as they stand in
+/// the file. An exception that an operation throws ends the run and goes to the host, but for one
+/// of a CloseProgress that comes when the driver goes.
 class S2K2NGT_API Platform {
  public:
   virtual ~Platform();

@@ -10,6 +10,11 @@
  *     int result = s2k2ngt_convert("bridge.s2k", &host, output, sizeof output);
  *
  * Nothing is thrown across this interface, and no window is opened but by s2k2ngt_convert_chosen.
+ *
+ * All functions may be called from several threads at once, but s2k2ngt_convert_chosen only from
+ * one at a time. No two conversions at once may write the same output. A call-back that hosts of
+ * several threads share is called on all of them, and so is a message catalogue that a host brings.
+ * The library must not be unloaded before the last call has returned.
  */
 #ifndef S2K2NGT_H
 #define S2K2NGT_H

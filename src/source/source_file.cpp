@@ -16,7 +16,7 @@ namespace s2k2ngt {
 
 SourceFile ReadSourceFile(const std::string& path) {
   struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
   };
   SourceFile source;
   std::error_code ignored;

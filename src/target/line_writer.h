@@ -32,6 +32,7 @@ class LineFormat {
   consteval LineFormat(const char* format) {
     constexpr std::array<char, kCount + 1> kinds = {KindOf<Arguments>()..., '\0'};
     std::string_view rest = format;
+    // cppcheck-suppress useInitializationList; the compiler does all of this
     TextBefore = TakeText(rest);
     Room = TextBefore.size();
     for (std::size_t index = 0; index < kCount; ++index) {

@@ -22,7 +22,7 @@ class OutputFile {
   [[noreturn]] void Fail(const char* what) const;
 
   struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
   };
   std::string m_Path;
   std::unique_ptr<std::FILE, Closer> m_File;

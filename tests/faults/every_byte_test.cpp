@@ -5,11 +5,11 @@
 #include "source/table_catalogue.h"
 #include "support/conversion_run.h"
 #include "support/examples.h"
+#include "support/quiet_platform.h"
 #include "support/temporary_folder.h"
 
 #include <s2k2ngt/converter.h>
 #include <s2k2ngt/exceptions.h>
-#include <s2k2ngt/platform.h>
 
 #include <chrono>
 #include <cstddef>
@@ -69,12 +69,6 @@ std::set<int> IdsIn(const std::string& file) {
   return ids;
 }
 
-/// Shows nothing and keeps nothing.
-class SilentPlatform : public s2k2ngt::Platform {
- public:
-  void ShowMessage(const std::string& /*key*/, const std::string& /*text*/) override {}
-};
-
 /// A file that is changed in place, and runs over it.
 class ChangedFile {
  public:
@@ -104,7 +98,7 @@ class ChangedFile {
   /// A run must end by itself: with an output, or with a reason and none.
   void Convert() {
     const auto begin = std::chrono::steady_clock::now();
-    SilentPlatform platform;
+    QuietPlatform platform;
     s2k2ngt::CConverter converter(platform);
     int result = s2k2ngt::kFailed;
     try {
