@@ -1,6 +1,5 @@
 // Whole conversions: a file of any bytes in, a whole output, a result that says why there is none,
 // or one of the documented exceptions out, in bounded time.
-#include "support/temporary_folder.h"
 #include "target.h"
 
 #include <s2k2ngt/converter.h>
@@ -9,7 +8,6 @@
 
 #include <chrono>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
@@ -24,15 +22,6 @@ class CheckingPlatform : public s2k2ngt::Platform {
     Require(!text.empty(), "a message without a text");
   }
 };
-
-/// Files of this process, in memory where the system offers that.
-const TemporaryFolder& Folder() {
-  static const TemporaryFolder folder = [] {
-    setenv("TMPDIR", "/dev/shm", 0);
-    return TemporaryFolder();
-  }();
-  return folder;
-}
 
 void CheckOutput(const std::string& output) {
   Require(output.starts_with(";---"), "an output without a head");

@@ -9,9 +9,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <vector>
-
-#include <unistd.h>
 
 using s2k2ngt::LineWriter;
 using s2k2ngt::OutputFile;
@@ -20,22 +17,6 @@ namespace {
 
 /// What one file of a run holds at most, to keep the runs short.
 constexpr std::size_t kLinesAtMost = 200;
-
-/// A file of this process that is read back.
-std::string FileName() { return "/dev/shm/s2k2ngt_lines_" + std::to_string(getpid()); }
-
-std::string ReadBack(const std::string& path) {
-  std::string bytes;
-  std::FILE* const file = std::fopen(path.c_str(), "rb");
-  Require(file != nullptr, "no output");
-  std::vector<char> piece(std::size_t{1} << 16U);
-  for (std::size_t got = 0; (got = std::fread(piece.data(), 1, piece.size(), file)) > 0;) {
-    bytes.append(piece.data(), got);
-  }
-  std::fclose(file);
-  std::remove(path.c_str());
-  return bytes;
-}
 
 /// What printf prints.
 [[gnu::format(printf, 1, 2)]] std::string Printed(const char* format, ...) {
@@ -105,7 +86,7 @@ void WriteLines(Input& input, LineWriter& out, std::string& expected) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Input input(data, size);
-  const std::string path = FileName();
+  const std::string path = Folder().FileName("lines");
   std::string expected;
   {
     OutputFile file(path);
@@ -114,6 +95,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     out.Flush();
     file.Close();
   }
-  Require(ReadBack(path) == expected, "another line than printf's");
+  Require(ReadFile(path) == expected, "another line than printf's");
   return 0;
 }

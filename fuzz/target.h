@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/temporary_folder.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -14,6 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 /// Ends the process, with a word on what was found, unless the condition holds.
 void Require(bool holds, const std::string& what);
+
+/// A folder of this process, in memory where the system offers that.
+const TemporaryFolder& Folder();
 
 /// An input, taken from its beginning piece by piece. Behind its end all numbers are 0.
 class Input {
