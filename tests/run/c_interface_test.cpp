@@ -102,6 +102,13 @@ TEST_F(CInterface, FailureTellsItsReasonOnce) {
                                     "CoordType=Polar, only Cartesian is read"));
 }
 
+TEST_F(CInterface, FailureThatNobodyIsToldIsStillTheResult) {
+  const std::string missing = m_Folder.FileName("missing.s2k");
+  EXPECT_EQ(s2k2ngt_convert(missing.c_str(), nullptr, nullptr, 0), S2K2NGT_FAILED);
+  m_CallBacks.failure = nullptr;
+  EXPECT_EQ(s2k2ngt_convert(missing.c_str(), &m_CallBacks, nullptr, 0), S2K2NGT_FAILED);
+}
+
 TEST_F(CInterface, ExceptionsBecomeFailuresWithTheirReason) {
   std::filesystem::create_directory(m_Folder.FileName("model.ngt"));
   EXPECT_EQ(s2k2ngt_convert(m_Input.c_str(), &m_CallBacks, nullptr, 0), S2K2NGT_FAILED);

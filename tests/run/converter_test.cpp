@@ -215,6 +215,12 @@ TABLE:  "CONNECTIVITY - FRAME"
   EXPECT_EQ(m_Converter.RowCount(), 2U);
 }
 
+TEST_F(RunTest, DriverThatHasNotRunHasNoRowsAndNoFailure) {
+  EXPECT_EQ(m_Converter.RowCount(), 0U);
+  EXPECT_EQ(m_Converter.Failure().Phase, kNotBegun);
+  EXPECT_EQ(m_Converter.Failure().Reason, "");
+}
+
 TEST_F(RunTest, RowCountIsThatOfTheRowsReadIntoTheModel) {
   ASSERT_EQ(Run(FileWith(R"(
 TABLE:  "PROGRAM CONTROL"
