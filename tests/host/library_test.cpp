@@ -114,6 +114,7 @@ TEST(Library, EntryPointsAskForTheFileOnATerminal) {
             "s2k2ngt_convert_chosen 0 tower.ngt\n"
             "the buffer for the path of the output is too small\n"
             "s2k2ngt_convert_chosen -1\n");
+  EXPECT_THAT(run.Err, testing::HasSubstr("SAP2000 V8 text file (.s2k) to convert: "));
   EXPECT_THAT(run.Err, testing::HasSubstr("There is no file no-such-file"));
 }
 
