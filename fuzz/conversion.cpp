@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 
 namespace {
@@ -34,6 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string input = Folder().FileName("model.s2k");
   const std::string output = s2k2ngt::CConverter::OutputPath(input);
   WriteFile(input, {reinterpret_cast<const char*>(data), size});
+  std::filesystem::remove(output);
   CheckingPlatform platform;
   s2k2ngt::CConverter converter(platform);
   const auto begin = std::chrono::steady_clock::now();
@@ -44,6 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } else {
       Require(result == s2k2ngt::kFailed, "stopped by nobody");
       Require(!converter.Failure().Reason.empty(), "failed for no reason");
+      Require(!std::filesystem::exists(output), "an output of a file that was not read");
     }
   } catch (const s2k2ngt::InvalidArgumentException& exception) {
     Require(converter.Failure().Reason == exception.what(), "another reason than the exception's");

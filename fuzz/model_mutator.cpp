@@ -24,6 +24,9 @@ constexpr std::array<Text, 34> kOddValues = {
     "0x1p3",      "%s%n%d",     "=",           "a=b",        " _",
     "\"",         "A",          "GLOBAL",      "END"};
 
+/// A shorter line ends a table; a row of blanks does not.
+constexpr std::size_t kShortestRow = 2;
+
 struct Block {
   std::string Title;  // line of the title, or any other line between the blocks
   std::vector<std::string> Rows = {};
@@ -72,14 +75,14 @@ class Model {
     }
   }
 
-  /// Keeps tables until the text would be too long, with a few rows of each.
+  /// Keeps a few rows of each table.
   void Thin(std::size_t rowsAtMost) {
     for (Block& block : m_Blocks) {
       block.Rows.resize(std::min<std::size_t>(block.Rows.size(), 1 + Below(rowsAtMost)));
     }
   }
 
-  /// The first so many bytes, whole lines as a rule.
+  /// The text, without the tables for which there is no room any more.
   std::string Write(std::size_t sizeAtMost) const {
     constexpr Text kEnd = "END TABLE DATA\n";
     std::string text;
@@ -104,7 +107,7 @@ class Model {
     if (line.starts_with("TABLE")) {
       m_Blocks.push_back({std::string(line), {}, true});
       m_InTable = true;
-    } else if (s2k2ngt::TrimRight(line).empty()) {
+    } else if (line.size() < kShortestRow) {
       m_InTable = false;
     } else if (m_InTable) {
       m_Blocks.back().Rows.emplace_back(line);
@@ -221,9 +224,9 @@ class Model {
 std::string MutateModel(const std::string& model, std::size_t sizeAtMost, std::uint32_t seed) {
   std::mt19937 random(seed);
   if (random() % 50 == 0) {
-    return SmallRandomModel(sizeAtMost, seed);
+    return SmallRandomModel(sizeAtMost, static_cast<std::uint32_t>(random()));
   }
-  Model mutated(model, seed);
+  Model mutated(model, static_cast<std::uint32_t>(random()));
   for (std::uint_fast32_t changes = 1 + random() % 4; changes > 0; --changes) {
     mutated.Mutate();
   }
