@@ -1,6 +1,7 @@
 #include "command.h"
 
 #include "common/files.h"
+#include "files_of_call.h"
 #include "platform/terminal/terminal_platform.h"
 
 #include <s2k2ngt/converter.h>
@@ -11,8 +12,6 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -35,6 +34,7 @@ struct Message {
 struct Outcome {
   int Result = s2k2ngt::kFailed;
   std::optional<std::string> Output;  // when it was written whole
+  bool IsEmpty = false;               // for want of rows
   std::vector<Message> Messages;
   std::optional<std::string> Error;       // of a failure
   std::optional<std::string> Unfinished;  // output that a stop has left on disk
@@ -63,22 +63,13 @@ class CommandPlatform : public s2k2ngt::TerminalPlatform {
   std::vector<Message>& m_Shown;
 };
 
-bool WouldReplaceInput(const std::string& input, const std::string& output) {
-  std::error_code noSuchFile;
-  return std::filesystem::equivalent(s2k2ngt::NativePath(input), s2k2ngt::NativePath(output),
-                                     noSuchFile);
-}
-
 /// Nothing in such a file would be known, and its output would be empty without a word.
 bool IsUtf16(const std::string& path) {
   std::error_code noSuchFile;
   if (!std::filesystem::is_regular_file(s2k2ngt::NativePath(path), noSuchFile)) {
     return false;  // a pipe gives its bytes once
   }
-  struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-  const std::unique_ptr<std::FILE, Closer> file(s2k2ngt::OpenFile(path, "rb"));
+  const s2k2ngt::OpenedFile file = s2k2ngt::OpenFile(path, "rb");
   std::array<unsigned char, 2> first{};
   if (file == nullptr || std::fread(first.data(), 1, first.size(), file.get()) < first.size()) {
     return false;
@@ -88,23 +79,15 @@ bool IsUtf16(const std::string& path) {
   return hasMark || (first[0] == 0) != (first[1] == 0);
 }
 
-/// Which input of this call each output was written for.
-using WrittenOutputs = std::map<std::string, std::string>;
-
-Outcome Convert(const std::string& file, const CommandOptions& options, WrittenOutputs& written) {
+Outcome Convert(const std::string& file, const CommandOptions& options, FilesOfCall& files) {
   Outcome outcome;
   const std::string output = CConverter::OutputPath(file);
-  if (WouldReplaceInput(file, output)) {
-    outcome.Error = file + ": the output would replace the input; rename the input to end in .s2k";
+  if (const auto reason = files.WhyNotWritten(file, output)) {
+    outcome.Error = file + ": " + *reason;
     return outcome;
   }
   if (IsUtf16(file)) {
     outcome.Error = file + ": it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
-    return outcome;
-  }
-  const auto [earlier, isNew] = written.try_emplace(output, file);
-  if (!isNew && earlier->second != file) {
-    outcome.Error = file + ": the output would replace that of " + earlier->second;
     return outcome;
   }
   CommandPlatform platform(options, file, outcome.Messages);
@@ -117,8 +100,10 @@ Outcome Convert(const std::string& file, const CommandOptions& options, WrittenO
   const s2k2ngt::Diagnostic& ended = converter.Failure();
   if (outcome.Result == s2k2ngt::kConverted) {
     outcome.Output = output;
+    outcome.IsEmpty = converter.RowCount() == 0;
   } else if (outcome.Result == s2k2ngt::kFailed) {
-    outcome.Error = ended.Describe(file);
+    outcome.Error = ended.Reason.empty() ? file + ": there is not enough memory to begin"
+                                         : ended.Describe(file);
   } else if (ended.Phase == s2k2ngt::kWriting) {
     outcome.Unfinished = output;
   }
@@ -155,7 +140,8 @@ void PrintOutcome(const std::string& file, const Outcome& outcome, const Command
   } else if (outcome.Result == s2k2ngt::kStopped) {
     PrintLine(file + ": stopped");
   } else if (!options.Quiet) {
-    PrintLine(file + ": converted to " + *outcome.Output);
+    PrintLine(file + ": converted to " + *outcome.Output +
+              (outcome.IsEmpty ? ", which is empty: the file has no row that is converted" : ""));
   }
 }
 
@@ -163,7 +149,7 @@ void PrintOutcome(const std::string& file, const Outcome& outcome, const Command
 
 int ConvertFiles(const CommandOptions& options) {
   const s2k2ngt::InterruptGuard interrupts;
-  WrittenOutputs written;
+  FilesOfCall files(options.Files);
   bool oneFailed = false;
   bool oneStopped = false;
   for (const std::string& file : options.Files) {
@@ -171,7 +157,7 @@ int ConvertFiles(const CommandOptions& options) {
     if (WasInterrupted()) {
       outcome.Result = s2k2ngt::kStopped;
     } else {
-      outcome = Convert(file, options, written);
+      outcome = Convert(file, options, files);
     }
     PrintOutcome(file, outcome, options);
     if (options.Json) {

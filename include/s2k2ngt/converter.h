@@ -46,6 +46,9 @@ struct S2K2NGT_API Diagnostic {
 /// file that is there. Results do not depend on the process's locale. A driver owns the models of
 /// its last run; nothing of an earlier one survives.
 ///
+/// Bytes are read as they stand, in no character set. Of UTF-16 text hardly a line is known: its
+/// output is all but empty, and the result 0.
+///
 /// Drivers are independent of each other: their runs may go on in several threads at once, each
 /// with a platform of its own. A single driver is for one thread at a time. No two runs at once may
 /// write the same output. A message catalogue that a host brings is called on the threads of all

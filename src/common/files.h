@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <string>
 
 namespace s2k2ngt {
@@ -11,7 +12,14 @@ namespace s2k2ngt {
 
 std::filesystem::path NativePath(const std::string& path);
 
-/// What fopen does, for a path in any script. `mode` is plain ASCII.
-std::FILE* OpenFile(const std::string& path, const char* mode);
+/// Closes a file whose bytes are all read, or no longer of use.
+struct FileCloser {
+  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+using OpenedFile = std::unique_ptr<std::FILE, FileCloser>;
+
+/// What fopen does, for a path in any script: null and errno when the file cannot be opened. `mode`
+/// is plain ASCII.
+OpenedFile OpenFile(const std::string& path, const char* mode);
 
 }  // namespace s2k2ngt

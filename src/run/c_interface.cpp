@@ -4,6 +4,7 @@
 #include "run/message_boxes.h"
 
 #include <s2k2ngt/converter.h>
+#include <s2k2ngt/exceptions.h>
 #include <s2k2ngt/s2k2ngt.h>
 #include <s2k2ngt/version.h>
 
@@ -88,6 +89,9 @@ int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char
       result = converter.Run(path);
     } catch (const std::exception&) {
       result = kFailed;
+      if (converter.Failure().Reason.empty()) {
+        throw;  // the run could not even begin
+      }
     }
     reason = converter.Failure().Describe(path);
   }
@@ -112,6 +116,9 @@ int Guard(const s2k2ngt_host* host, bool isComplete, Function convert) {
   }
   try {
     return convert(known);
+  } catch (const MemoryException&) {
+    TellFailure(known, "there is not enough memory");
+    return kFailed;
   } catch (...) {
     TellFailure(known, "a call-back of the host threw an exception");
     return kFailed;

@@ -17,6 +17,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace s2k2ngt {
@@ -24,13 +25,17 @@ namespace s2k2ngt {
 /// The run itself. All that it works on lives as long as the driver.
 class CConverter::Impl : private TableSink {
  public:
-  explicit Impl(Platform& platform) : m_Messages(platform), m_PrgsDlg(platform) {}
+  explicit Impl(Platform& platform) : m_Messages(platform), m_PrgsDlg(platform) {
+    m_Failure.Reason.reserve(kNoMemory.size());  // when it is to be told there is none
+  }
 
   int Run(const char* pszPath);
   const Diagnostic& Failure() const { return m_Failure; }
   std::uint64_t RowCount() const { return m_Model.RowCount(); }
 
  private:
+  static constexpr std::string_view kNoMemory = "there is not enough memory for this model";
+
   int RunUncaught(const std::string& path);
   int RunPhases(const std::string& path, SourceFile source);
   int Read(Text image);
@@ -55,7 +60,7 @@ int CConverter::Impl::Run(const char* pszPath) {
     // No path is as one of no file.
     return RunUncaught(pszPath == nullptr ? "" : pszPath);
   } catch (const MemoryException&) {
-    m_Failure.Reason = "there is not enough memory for this model";
+    m_Failure.Reason = kNoMemory;
     throw;
   } catch (const std::exception& exception) {
     m_Failure.Reason = exception.what();

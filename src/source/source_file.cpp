@@ -15,9 +15,6 @@
 namespace s2k2ngt {
 
 SourceFile ReadSourceFile(const std::string& path) {
-  struct Closer {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-  };
   SourceFile source;
   std::error_code ignored;
   if (std::filesystem::is_directory(NativePath(path), ignored)) {
@@ -25,7 +22,7 @@ SourceFile ReadSourceFile(const std::string& path) {
     source.OpenError = "it is a directory";
     return source;
   }
-  const std::unique_ptr<std::FILE, Closer> file(OpenFile(path, "rb"));
+  const OpenedFile file = OpenFile(path, "rb");
   if (file == nullptr) {
     source.OpenError = std::generic_category().message(errno);
     return source;

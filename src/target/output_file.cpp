@@ -1,10 +1,9 @@
 #include "target/output_file.h"
 
-#include "common/files.h"
-
 #include <s2k2ngt/exceptions.h>
 
 #include <cerrno>
+#include <cstdio>
 
 namespace s2k2ngt {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstdio>
-#include <memory>
+#include "common/files.h"
+
 #include <string>
 #include <string_view>
 
@@ -21,11 +21,8 @@ class OutputFile {
  private:
   [[noreturn]] void Fail(const char* what) const;
 
-  struct Closer {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-  };
   std::string m_Path;
-  std::unique_ptr<std::FILE, Closer> m_File;
+  OpenedFile m_File;
 };
 
 }  // namespace s2k2ngt

@@ -229,6 +229,58 @@ TEST_F(CommandTest, OutputOfAnotherInputOfTheCallIsNotReplaced) {
   EXPECT_EQ(objects[2]["result"], 0);
 }
 
+TEST_F(CommandTest, OutputThatIsAnotherInputOfTheCallIsNotReplaced) {
+  Write("two.txt", kOneJoint);
+  Write("two.ngt", kOneJoint);
+  const CommandRun run = Call({"--json", "two.txt", "two.ngt"});
+  EXPECT_EQ(run.Status, 2);
+  const std::vector<json> objects = JsonLines(run.Out);
+  ASSERT_EQ(objects.size(), 2U);
+  EXPECT_EQ(objects[0]["error"], "two.txt: the output would replace the input two.ngt");
+  EXPECT_EQ(objects[1]["error"],
+            "two.ngt: the output would replace the input; rename the input to end in .s2k");
+  EXPECT_EQ(ReadFile(m_Folder.FileName("two.ngt")), kOneJoint);
+}
+
+TEST_F(CommandTest, OutputOfAnotherInputIsNotReplacedUnderAnotherName) {
+  Write("a.s2k", kOneJoint);
+  Write("a.txt", kOneJoint);
+  std::filesystem::create_directory_symlink(m_Folder.Path(), m_Folder.Path() / "here");
+  for (const std::string folder : {"./", "here/", "here/here/"}) {
+    const CommandRun run = Call({"--json", "a.s2k", folder + "a.txt"});
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_EQ(JsonLines(run.Out).at(1)["error"],
+              folder + "a.txt: the output would replace that of a.s2k");
+  }
+}
+
+TEST_F(CommandTest, InputWhoseOutputWouldNotLieBesideItIsRefused) {
+  // The output's path is that of the input up to its last dot.
+  std::filesystem::create_directory(m_Folder.Path() / "bridge.v2");
+  Write("bridge.v2/model", kOneJoint);
+  Write("model", kOneJoint);
+  for (const std::string file : {"bridge.v2/model", "./model"}) {
+    const CommandRun run = Call({"--json", file});
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_EQ(
+        JsonLines(run.Out).at(0)["error"],
+        file + ": the output would not lie beside the input; rename the input to end in .s2k");
+  }
+  EXPECT_FALSE(std::filesystem::exists(m_Folder.Path() / "bridge.ngt"));
+  EXPECT_FALSE(std::filesystem::exists(m_Folder.Path() / ".ngt"));
+  EXPECT_EQ(Call({"model"}).Status, 0);
+  EXPECT_TRUE(std::filesystem::exists(m_Folder.Path() / "model.ngt"));
+}
+
+TEST_F(CommandTest, FileWithoutARowOfUseIsToldToGiveAnEmptyOutput) {
+  Write("notes.txt", "");
+  const CommandRun run = Call({"notes.txt"});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_THAT(run.Err,
+              HasSubstr("notes.txt: converted to notes.ngt, which is empty: the file has no "
+                        "row that is converted\n"));
+}
+
 TEST_F(CommandTest, ControlCharactersOfALabelDoNotReachTheTerminal) {
   Write("tower.s2k",
         FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=\x1b]0;owned\a   CoordType=Polar\n"));

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -61,7 +62,8 @@ TEST(FullDisk, IsToldWhereverTheOutputEnds) {
   WriteFile(path, LargeModel());
   constexpr std::size_t kNoLimit = std::size_t{1} << 40U;
   ASSERT_FALSE(RunOnFullDisk(path, kNoLimit).has_value());
-  const std::size_t size = ReadFile(output).size();
+  const std::string wanted = ReadFile(output);
+  const std::size_t size = wanted.size();
   constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
   ASSERT_GT(size, kMebibyte + 1);  // more than one write
 
@@ -74,11 +76,40 @@ TEST(FullDisk, IsToldWhereverTheOutputEnds) {
     EXPECT_EQ(exception->SystemError(), EFBIG);
     EXPECT_EQ(std::string(exception->what()),
               "Cannot write output file " + output + ": File too large");
-    EXPECT_LE(ReadFile(output).size(), room);
+    EXPECT_TRUE(ReadFile(output) == wanted.substr(0, room));
   }
 
   EXPECT_FALSE(RunOnFullDisk(path, size).has_value());
-  EXPECT_EQ(ReadFile(output).size(), size);
+  EXPECT_TRUE(ReadFile(output) == wanted);
+}
+
+TEST(FullDisk, IsToldAlsoWhenTheUserStops) {
+  const TemporaryFolder folder;
+  const std::string path = folder.FileName("model.s2k");
+  WriteFile(path, FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=1\n"));
+  std::filesystem::create_symlink("/dev/full", folder.FileName("model.ngt"));
+  ScriptedPlatform whole;
+  EXPECT_THROW(s2k2ngt::CConverter(whole).Run(path.c_str()), s2k2ngt::FileException);
+
+  int told = 0;
+  for (int step = 1; step <= whole.Steps; ++step) {
+    SCOPED_TRACE(step);
+    ScriptedPlatform platform;
+    platform.StopAtStep = step;
+    {
+      s2k2ngt::CConverter converter(platform);
+      try {
+        EXPECT_EQ(converter.Run(path.c_str()), s2k2ngt::kStopped);
+        EXPECT_LT(converter.Failure().Phase, s2k2ngt::kWriting);
+      } catch (const s2k2ngt::FileException& exception) {
+        EXPECT_EQ(exception.SystemError(), ENOSPC);
+        EXPECT_EQ(converter.Failure().Phase, s2k2ngt::kWriting);
+        ++told;
+      }
+    }
+    EXPECT_EQ(platform.WindowsOpen, 0);
+  }
+  EXPECT_GT(told, 30);  // a step for each section
 }
 
 }  // namespace

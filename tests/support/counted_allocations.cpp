@@ -8,12 +8,14 @@
 namespace {
 
 std::size_t s_AllocationsToFailure = 0;  // 0: none fails
+bool s_AllBehindFail = false;
 LivingMemory s_Living;
 
 }  // namespace
 
 void* operator new(std::size_t size) {
   if (s_AllocationsToFailure > 0 && --s_AllocationsToFailure == 0) {
+    s_AllocationsToFailure = s_AllBehindFail ? 1 : 0;
     throw std::bad_alloc();
   }
   void* const memory = std::malloc(size == 0 ? 1 : size);
@@ -37,4 +39,7 @@ void operator delete(void* memory, std::size_t /*size*/) noexcept { operator del
 
 LivingMemory CountLivingMemory() { return s_Living; }
 
-void FailAtAllocation(std::size_t allocation) { s_AllocationsToFailure = allocation; }
+void FailAtAllocation(std::size_t allocation, bool andAllBehind) {
+  s_AllocationsToFailure = allocation;
+  s_AllBehindFail = andAllBehind;
+}

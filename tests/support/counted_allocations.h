@@ -11,5 +11,6 @@ struct LivingMemory {
 };
 LivingMemory CountLivingMemory();
 
-/// Lets the so-manieth allocation from now on fail, from 1; none with 0.
-void FailAtAllocation(std::size_t allocation);
+/// Lets the so-manieth allocation from now on fail, from 1, and all behind it if asked for; none
+/// with 0.
+void FailAtAllocation(std::size_t allocation, bool andAllBehind = false);

@@ -6,8 +6,8 @@ namespace s2k2ngt {
 
 std::filesystem::path NativePath(const std::string& path) { return Wide(path); }
 
-std::FILE* OpenFile(const std::string& path, const char* mode) {
-  return _wfopen(Wide(path).c_str(), Wide(mode).c_str());
+OpenedFile OpenFile(const std::string& path, const char* mode) {
+  return OpenedFile(_wfopen(Wide(path).c_str(), Wide(mode).c_str()));
 }
 
 }  // namespace s2k2ngt

@@ -1,0 +1,50 @@
+#include "files_of_call.h"
+
+#include "common/files.h"
+
+#include <system_error>
+
+using s2k2ngt::NativePath;
+
+namespace {
+
+/// One name for all the names of a file, or of one that is not there yet.
+std::filesystem::path TrueName(const std::string& path) {
+  std::error_code unknown;
+  const std::filesystem::path whole = std::filesystem::absolute(NativePath(path), unknown);
+  const std::filesystem::path name = std::filesystem::weakly_canonical(whole, unknown);
+  return unknown ? whole : name;
+}
+
+bool AreTheSame(const std::string& input, const std::string& output) {
+  std::error_code noSuchFile;
+  return std::filesystem::equivalent(NativePath(input), NativePath(output), noSuchFile);
+}
+
+}  // namespace
+
+FilesOfCall::FilesOfCall(const std::vector<std::string>& inputs) {
+  for (const std::string& input : inputs) {
+    m_Inputs.insert(TrueName(input));
+  }
+}
+
+std::optional<std::string> FilesOfCall::WhyNotWritten(const std::string& input,
+                                                      const std::string& output) {
+  if (NativePath(input).parent_path() != NativePath(output).parent_path()) {
+    // The last dot of the path is in the name of a folder.
+    return "the output would not lie beside the input; rename the input to end in .s2k";
+  }
+  if (AreTheSame(input, output)) {
+    return "the output would replace the input; rename the input to end in .s2k";
+  }
+  const std::filesystem::path name = TrueName(output);
+  if (m_Inputs.contains(name)) {
+    return "the output would replace the input " + output;
+  }
+  const auto [earlier, isNew] = m_InputOfOutput.try_emplace(name, input);
+  if (!isNew && TrueName(earlier->second) != TrueName(input)) {
+    return "the output would replace that of " + earlier->second;
+  }
+  return std::nullopt;
+}
