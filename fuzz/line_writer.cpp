@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t kLinesAtMost = 200;
 
 /// What printf prints.
-[[gnu::format(printf, 1, 2)]] std::string Printed(const char* format, ...) {
+[[gnu::format(printf, 1, 2)]] std::string Printed(const char* format, ...) {  // NOLINT(cert-dcl50-cpp): as printf
   std::va_list arguments;
   va_start(arguments, format);
   char* text = nullptr;
