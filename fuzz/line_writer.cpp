@@ -19,7 +19,8 @@ namespace {
 constexpr std::size_t kLinesAtMost = 200;
 
 /// What printf prints.
-[[gnu::format(printf, 1, 2)]] std::string Printed(const char* format, ...) {  // NOLINT(cert-dcl50-cpp): as printf
+// NOLINTNEXTLINE(cert-dcl50-cpp): with the arguments of printf
+[[gnu::format(printf, 1, 2)]] std::string Printed(const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
   char* text = nullptr;
