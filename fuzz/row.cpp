@@ -90,7 +90,7 @@ double LiteralExpression(std::string text) {
   std::size_t first = 0;
   char toTheLeft = '\0';
   for (const auto& [place, sign] : operators) {
-    const double operand = std::atof(text.substr(first, place - first).c_str());
+    const double operand = std::strtod(text.substr(first, place - first).c_str(), nullptr);
     switch (toTheLeft) {
       case '+':
         result += operand;
@@ -115,10 +115,10 @@ double LiteralExpression(std::string text) {
 }
 
 void CompareNumbers(const std::string& text) {
-  RequireSame(s2k2ngt::ParseReal(text), std::atof(text.c_str()), "the number", text);
+  RequireSame(s2k2ngt::ParseReal(text), std::strtod(text.c_str(), nullptr), "the number", text);
   double whole = 0.0;
   if (s2k2ngt::ParseWholeReal(text, whole)) {
-    RequireSame(whole, std::atof(text.c_str()), "the whole number", text);
+    RequireSame(whole, std::strtod(text.c_str(), nullptr), "the whole number", text);
   }
   RequireSame(s2k2ngt::ParseInteger(text), LiteralInteger(text), "the integer", text);
   RequireSame(CStrParser::EvalExpr(text), LiteralExpression(text), "the expression", text);
