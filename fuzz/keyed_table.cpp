@@ -45,8 +45,11 @@ class Tables {
   void CompareFind(std::uint32_t key) const {
     const Record* const found = m_Table.Find(key);
     const Record* const wanted = m_Twin.Find(key);
-    Require((found == nullptr) == (wanted == nullptr), "Find finds what is not there, or not");
-    Require(found == nullptr || *found == *wanted, "Find finds another record");
+    if (found == nullptr || wanted == nullptr) {
+      Require(found == wanted, "Find finds what is not there, or not");
+    } else {
+      Require(*found == *wanted, "Find finds another record");
+    }
   }
 
   void CompareWalk() const {
