@@ -92,7 +92,6 @@ class BlockList : public s2k2ngt::TableSink {
  private:
   bool WantsRows(int /*tableId*/) override { return m_WantsRows; }
   bool DispatchRows(const s2k2ngt::TableBlock& block) override {
-    Require(block.TableId > 0, "a block of no table");
     Require(block.Line > 0, "a block without a place");
     Require(m_WantsRows || block.Rows.empty(), "rows that were not wanted");
     s2k2ngt::OutcomeOf(block.TableId);
@@ -104,7 +103,9 @@ class BlockList : public s2k2ngt::TableSink {
       m_Sum += static_cast<std::size_t>(row.Content.find('\0'));
       Require(row.Content.empty() || !s2k2ngt::IsSpace(row.Content.front()), "a row not trimmed");
     }
-    m_Blocks.push_back({block.TableId, std::string(block.Title), block.Line});
+    if (block.TableId > 0) {
+      m_Blocks.push_back({block.TableId, std::string(block.Title), block.Line});
+    }
     return true;
   }
 

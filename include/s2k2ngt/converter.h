@@ -1,5 +1,6 @@
 #pragma once
 
+#include <s2k2ngt/account.h>
 #include <s2k2ngt/exceptions.h>
 #include <s2k2ngt/export.h>
 #include <s2k2ngt/platform.h>
@@ -33,6 +34,17 @@ struct S2K2NGT_API Diagnostic {
 
   /// All of it in one line that begins with the file's name.
   std::string Describe(const std::string& fileName) const;
+};
+
+/// What a run does besides what it does always.
+struct RunOptions {
+  /// Path of the output; empty for the one that OutputPath gives.
+  std::string Output;
+  /// False for a dry run: everything is converted, and shown, but no file is written or replaced.
+  bool WritesOutput = true;
+  /// True to keep an account of every row of the input, for AccountOfRows. The output and the
+  /// messages are the same with it and without.
+  bool KeepsAccount = false;
 };
 
 /// One conversion of one SAP2000 V8 text file (.s2k) into the host's command text file (.ngt).
@@ -71,6 +83,7 @@ class S2K2NGT_API CConverter {
   /// InvalidArgumentException for a table of units, coordinate systems or active degrees of freedom
   /// without a row, or units that are not three. What the platform throws goes through.
   int Run(const char* pszPath);
+  int Run(const char* pszPath, const RunOptions& options);
 
   /// Where the last run ended; also after an exception. Its reason is empty unless the run failed.
   /// Valid until the next run.
@@ -78,6 +91,11 @@ class S2K2NGT_API CConverter {
 
   /// The number of rows read into the model.
   std::uint64_t RowCount() const;
+
+  /// What became of the rows of the last run, if it kept account of them; else it is empty. Also
+  /// after a stop, a failure or an exception: the rows that are not converted by then are told as
+  /// not looked at.
+  Account AccountOfRows() const;
 
   /// The path of the output of an input file: all up to the last dot, then ".ngt". The dot is
   /// looked for in the whole path, its directories included, as hosts do when they compute it.

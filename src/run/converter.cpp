@@ -1,3 +1,5 @@
+#include "account/ledger.h"
+#include "run/accounts.h"
 #include "run/message_boxes.h"
 #include "run/prgs_dlg.h"
 #include "run/row_parsers.h"
@@ -25,13 +27,15 @@ namespace s2k2ngt {
 /// The run itself. All that it works on lives as long as the driver.
 class CConverter::Impl : private TableSink {
  public:
-  explicit Impl(Platform& platform) : m_Messages(platform), m_PrgsDlg(platform) {
+  Impl(Platform& platform, const RunOptions& options)
+      : m_Options(options), m_Messages(platform), m_PrgsDlg(platform) {
     m_Failure.Reason.reserve(kNoMemory.size());  // when it is to be told there is none
   }
 
   int Run(const char* pszPath);
   const Diagnostic& Failure() const { return m_Failure; }
   std::uint64_t RowCount() const { return m_Model.RowCount(); }
+  Account AccountOfRows() const { return m_Ledger.MakeAccount(m_IsWhole); }
 
  private:
   static constexpr std::string_view kNoMemory = "there is not enough memory for this model";
@@ -44,14 +48,19 @@ class CConverter::Impl : private TableSink {
   int WriteAll(LineWriter& out);
   bool WantsRows(int tableId) override;
   bool DispatchRows(const TableBlock& block) override;
+  void LoseRows(const TableBlock& block, RowsLost how) override;
+  bool StoreRows(const TableBlock& block, RowParser parse);
 
+  RunOptions m_Options;
   MessageBoxes m_Messages;
   CPrgsDlg m_PrgsDlg;
   CModel m_Model;
   CNgtModel m_NgtModel;
   ElementNumbers m_Elements;
   DeferredWarnings m_Warnings;
-  Conversion m_Conversion{m_Model, m_NgtModel, m_Elements, m_Warnings, m_Messages};
+  Ledger m_Ledger{m_Options.KeepsAccount};
+  Conversion m_Conversion{m_Model, m_NgtModel, m_Elements, m_Warnings, m_Messages, m_Ledger};
+  bool m_IsWhole = false;
   Diagnostic m_Failure;
 };
 
@@ -91,8 +100,12 @@ int CConverter::Impl::RunPhases(const std::string& path, SourceFile source) {
     result = Convert();
   }
   if (result == kConverted) {
-    result = Write(OutputPath(path));
+    result = Write(m_Options.Output.empty() ? OutputPath(path) : m_Options.Output);
   }
+  if (result == kConverted && m_Ledger.IsKept()) {
+    CloseAccounts(m_Conversion);
+  }
+  m_IsWhole = result == kConverted;
   return result;
 }
 
@@ -109,34 +122,41 @@ int CConverter::Impl::Read(Text image) {
 }
 
 bool CConverter::Impl::WantsRows(int tableId) {
-  return FindRowParser(OutcomeOf(tableId).Record) != nullptr;
+  return m_Ledger.IsKept() || FindRowParser(OutcomeOf(tableId).Record) != nullptr;
 }
 
 bool CConverter::Impl::DispatchRows(const TableBlock& block) {
   const TableOutcome outcome = OutcomeOf(block.TableId);
-  switch (outcome.Fate) {
-    case TableFate::Ignored:
-      return true;
-    case TableFate::Refused:
-      m_Messages.Show(*outcome.Message);
-      return true;
-    case TableFate::Stored:
-      break;
-  }
   const RowParser parse = FindRowParser(outcome.Record);
-  if (parse == nullptr) {
-    return true;
+  if (m_Ledger.IsKept()) {
+    EnterBlock(block, outcome, m_Ledger);
   }
+  if (outcome.Fate == TableFate::Refused) {
+    m_Messages.Show(*outcome.Message);
+  }
+  return parse == nullptr || StoreRows(block, parse);
+}
+
+bool CConverter::Impl::StoreRows(const TableBlock& block, RowParser parse) {
   m_Failure.Table = block.Title;
   m_Failure.Line = block.Rows.empty() ? block.Line : block.Rows.front().Line;
   if (const std::optional<Refusal> refusal = parse(block.Rows, m_Model, m_Messages)) {
     m_Failure.Line = refusal->Line;
     m_Failure.Reason = refusal->Reason;
+    if (m_Ledger.IsKept()) {
+      EnterRefusal(block, *refusal, m_Ledger);
+    }
     return false;
   }
   m_Failure.Table.clear();
   m_Failure.Line = 0;
   return true;
+}
+
+void CConverter::Impl::LoseRows(const TableBlock& block, RowsLost how) {
+  if (m_Ledger.IsKept()) {
+    EnterLostRows(block, how, m_Ledger);
+  }
 }
 
 int CConverter::Impl::Convert() {
@@ -159,7 +179,7 @@ int CConverter::Impl::Convert() {
 int CConverter::Impl::Write(const std::string& outputPath) {
   m_Failure.Phase = kWriting;
   m_PrgsDlg.SetPhase(kWriting);
-  OutputFile file(outputPath);
+  OutputFile file = m_Options.WritesOutput ? OutputFile(outputPath) : OutputFile();
   LineWriter out(file);
   WriteFileHead(outputPath, out);
   const int result = WriteAll(out);
@@ -191,10 +211,12 @@ CConverter::CConverter(Platform& platform) : m_Platform(platform) {}
 
 CConverter::~CConverter() = default;
 
-int CConverter::Run(const char* pszPath) {
+int CConverter::Run(const char* pszPath) { return Run(pszPath, RunOptions()); }
+
+int CConverter::Run(const char* pszPath, const RunOptions& options) {
   // Nothing survives from one run to the next, whatever becomes of that.
   m_Impl.reset();
-  m_Impl = std::make_unique<Impl>(m_Platform);
+  m_Impl = std::make_unique<Impl>(m_Platform, options);
   return m_Impl->Run(pszPath);
 }
 
@@ -204,6 +226,10 @@ const Diagnostic& CConverter::Failure() const {
 }
 
 std::uint64_t CConverter::RowCount() const { return m_Impl == nullptr ? 0 : m_Impl->RowCount(); }
+
+Account CConverter::AccountOfRows() const {
+  return m_Impl == nullptr ? Account() : m_Impl->AccountOfRows();
+}
 
 std::string CConverter::OutputPath(const std::string& inputPath) {
   // Without a dot rfind gives npos, which takes the whole path.

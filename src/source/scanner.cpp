@@ -65,10 +65,17 @@ int TableScanner::Read() {
         break;
       case State::BlockFound:
         state = ReadBlock();
+        if (state != State::BlockEnded) {
+          LoseRows(RowsLost::ToEndOfScan);
+        }
         break;
       case State::BlockEnded:
-        if (m_TableId > 0 && !m_Sink.DispatchRows({m_TableId, m_Title, m_TitleLine, m_Rows})) {
+        if (!m_Sink.DispatchRows(CurrentBlock())) {
           return kFailed;
+        }
+        if (m_RowGoesOn) {
+          m_Rows.clear();
+          LoseRows(RowsLost::WithoutEnd);
         }
         state = State::BetweenBlocks;
         break;
@@ -155,7 +162,10 @@ TableScanner::State TableScanner::ReadBlock() {
     if (line.starts_with("TABLE")) {
       // Meant so: the block starts over under the title that opened it. The new title is not
       // looked at, and the rows read so far are lost.
+      LoseRows(RowsLost::ToFurtherTitle);
       StartBlock();
+      m_FurtherTitle = TitleText(line);
+      m_FurtherLine = m_Lines.LineNumber();
       continue;
     }
     if (m_RowsAreWanted) {
@@ -165,11 +175,26 @@ TableScanner::State TableScanner::ReadBlock() {
 }
 
 void TableScanner::StartBlock() {
-  m_RowsAreWanted = m_TableId > 0 && m_Sink.WantsRows(m_TableId);
+  m_RowsAreWanted = m_Sink.WantsRows(m_TableId);
   m_Rows.clear();
   m_JoinedRows.Clear();
   m_PendingText.clear();
   m_RowGoesOn = false;
+  m_FurtherTitle.clear();
+  m_FurtherLine = 0;
+}
+
+TableBlock TableScanner::CurrentBlock() const {
+  return {m_TableId, m_Title, m_TitleLine, m_Rows, m_FurtherTitle, m_FurtherLine};
+}
+
+void TableScanner::LoseRows(RowsLost how) {
+  if (m_RowGoesOn) {
+    m_Rows.push_back({m_PendingText, m_PendingLine});
+  }
+  if (!m_Rows.empty()) {
+    m_Sink.LoseRows(CurrentBlock(), how);
+  }
 }
 
 void TableScanner::AddLineToRow(Text line) {

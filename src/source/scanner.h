@@ -4,21 +4,13 @@
 #include "common/progress.h"
 #include "source/line_reader.h"
 #include "source/str_parser.h"
+#include "source/table_block.h"
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <vector>
 
 namespace s2k2ngt {
-
-/// A block of rows as it stands in the file.
-struct TableBlock {
-  int TableId;         // above 0
-  Text Title;          // what stands between the quotes of the title line
-  std::uint64_t Line;  // of the title
-  std::span<const SourceRow> Rows;
-};
 
 /// Takes the blocks that a scan finds, each at its end.
 class TableSink {
@@ -28,6 +20,8 @@ class TableSink {
   virtual bool WantsRows(int tableId) = 0;
   /// False ends the scan in failure. The rows are there until the call ends.
   virtual bool DispatchRows(const TableBlock& block) = 0;
+  /// Tells of rows that were read and that no block brings.
+  virtual void LoseRows(const TableBlock& /*block*/, RowsLost /*how*/) {}
 
  protected:
   TableSink() = default;
@@ -68,6 +62,8 @@ class TableScanner {
   State RefuseEndlessText();
   void StartBlock();
   void AddLineToRow(Text line);
+  TableBlock CurrentBlock() const;
+  void LoseRows(RowsLost how);
 
   LineReader m_Lines;
   Messages& m_Messages;
@@ -79,6 +75,8 @@ class TableScanner {
   bool m_RowsAreWanted = false;
   std::string m_Title;
   std::uint64_t m_TitleLine = 0;
+  std::string m_FurtherTitle;  // met inside the block
+  std::uint64_t m_FurtherLine = 0;
   std::vector<SourceRow> m_Rows;
   TextStore m_JoinedRows;     // of the block, as they do not stand in the file
   std::string m_PendingText;  // the row whose end is not read yet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "account/ledger.h"
 #include "common/messages.h"
 #include "source/model.h"
 #include "target/element_numbers.h"
@@ -48,6 +49,7 @@ struct Conversion {
   ElementNumbers& Elements;
   DeferredWarnings& Warnings;
   Messages& Shown;
+  Ledger& Accounts;
 };
 
 /// Shows the message of a table for which the target has no like, if the table has rows.

@@ -16,13 +16,14 @@ OutputFile::OutputFile(const std::string& path) : m_Path(path), m_File(OpenFile(
 }
 
 void OutputFile::Write(std::string_view bytes) {
-  if (std::fwrite(bytes.data(), 1, bytes.size(), m_File.get()) != bytes.size()) {
+  if (m_File != nullptr &&
+      std::fwrite(bytes.data(), 1, bytes.size(), m_File.get()) != bytes.size()) {
     Fail("Cannot write output file");
   }
 }
 
 void OutputFile::Close() {
-  if (std::fclose(m_File.release()) != 0) {
+  if (m_File != nullptr && std::fclose(m_File.release()) != 0) {
     Fail("Cannot write output file");
   }
 }

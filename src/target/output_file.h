@@ -13,6 +13,8 @@ class OutputFile {
  public:
   /// Replaces a file that is there.
   explicit OutputFile(const std::string& path);
+  /// A file that is nowhere: what is written to it is gone.
+  OutputFile() = default;
 
   void Write(std::string_view bytes);
   /// Hands all bytes to the system. A file that goes without it is closed as it stands.

@@ -157,7 +157,8 @@ class ThicknessWriterTest : public testing::Test {
   s2k2ngt::ElementNumbers m_Elements;
   s2k2ngt::DeferredWarnings m_Warnings;
   NotedMessages m_Shown;
-  s2k2ngt::Conversion m_Run{m_Source, m_Target, m_Elements, m_Warnings, m_Shown};
+  s2k2ngt::Ledger m_Accounts{false};
+  s2k2ngt::Conversion m_Run{m_Source, m_Target, m_Elements, m_Warnings, m_Shown, m_Accounts};
 };
 
 TEST_F(ThicknessWriterTest, LostModifiersAndPropertiesShowTheirMessagesInThisOrder) {

@@ -132,7 +132,7 @@ void KeepInput(const std::string& bytes) {
 
 }  // namespace
 
-ConversionRun ConvertBytes(const std::string& bytes) {
+ConversionRun ConvertBytes(const std::string& bytes, s2k2ngt::Account* account) {
   KeepInput(bytes);
   const TemporaryFolder folder;
   const std::string path = folder.FileName("model.s2k");
@@ -140,7 +140,12 @@ ConversionRun ConvertBytes(const std::string& bytes) {
   ScriptedPlatform platform;
   s2k2ngt::CConverter converter(platform);
   ConversionRun run;
-  run.Result = converter.Run(path.c_str());
+  s2k2ngt::RunOptions options;
+  options.KeepsAccount = account != nullptr;
+  run.Result = converter.Run(path.c_str(), options);
+  if (account != nullptr) {
+    *account = converter.AccountOfRows();
+  }
   run.Failure = converter.Failure();
   for (const ScriptedPlatform::Message& message : platform.Messages) {
     if (message.Key != "IDS_S2KV8_Export_must_be_executed") {

@@ -77,8 +77,9 @@ struct ConversionRun {
   std::vector<std::string> LoadLines(std::string_view loadCase, std::string_view command) const;
 };
 
-/// Runs the conversion over these bytes, as the file "model.s2k" of a folder of its own.
-ConversionRun ConvertBytes(const std::string& bytes);
+/// Runs the conversion over these bytes, as the file "model.s2k" of a folder of its own. With a
+/// place for it, the run keeps account of the rows.
+ConversionRun ConvertBytes(const std::string& bytes, s2k2ngt::Account* account = nullptr);
 
 /// Runs the conversion over these tables, between the first line of a file and its END line. A
 /// newline at the head of the text is dropped, so that a raw string can begin on a line of its own.

@@ -23,5 +23,6 @@ class WriterRun : private s2k2ngt::Messages {
   void ShowWith(s2k2ngt::MessageKey key, s2k2ngt::Text /*argument*/) override { Show(key); }
 
   s2k2ngt::ElementNumbers m_Elements;
-  s2k2ngt::Conversion m_Conversion{Source, Target, m_Elements, Warnings, *this};
+  s2k2ngt::Ledger m_Accounts{false};
+  s2k2ngt::Conversion m_Conversion{Source, Target, m_Elements, Warnings, *this, m_Accounts};
 };

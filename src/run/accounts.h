@@ -1,0 +1,26 @@
+#pragma once
+
+#include "account/ledger.h"
+#include "source/model.h"
+#include "source/table_block.h"
+#include "source/table_catalogue.h"
+#include "target/conversion.h"
+
+namespace s2k2ngt {
+
+// What the driver enters into the ledger of a run that keeps account.
+
+/// Enters a block, and why its rows are not looked at if no table of the model takes them.
+void EnterBlock(const TableBlock& block, const TableOutcome& outcome, Ledger& ledger);
+
+/// Notes the row of the block entered last that refuses the file.
+void EnterRefusal(const TableBlock& block, const Refusal& refusal, Ledger& ledger);
+
+/// Enters rows that no block brings.
+void EnterLostRows(const TableBlock& block, RowsLost how, Ledger& ledger);
+
+/// Notes the rows that are lost because no stage and no writer has asked for them. Runs when all
+/// is written.
+void CloseAccounts(Conversion& run);
+
+}  // namespace s2k2ngt
