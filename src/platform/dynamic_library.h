@@ -5,8 +5,8 @@ namespace s2k2ngt {
 /// The operating system's handle of a loaded library, or null.
 using LibraryHandle = void*;
 
-/// Loads a library by its bare file name, in the system's search order, which begins beside our own
-/// library. Null when it cannot be loaded.
+/// Loads a library by its bare file name: the one beside our own library, else, but on Windows, the
+/// one in the folder "s2k2ngt" there, else what the system finds. Null when it cannot be loaded.
 LibraryHandle LoadDynamicLibrary(const char* fileName);
 
 /// The address of an exported symbol, or null.

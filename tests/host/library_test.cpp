@@ -26,11 +26,16 @@ constexpr const char* kBuiltInText = "Error : DLL is not loaded. check message d
 /// A copy of the shared library in a folder of its own, loaded as a host loads it.
 class LoadedLibrary {
  public:
-  /// `catalogue` is the library to lie beside it as its message catalogue; none when empty.
-  explicit LoadedLibrary(const std::string& catalogue) {
+  /// `catalogue` is the library to lie beside it as its message catalogue, and `installed` the one
+  /// to lie where an installation keeps it; none when empty.
+  explicit LoadedLibrary(const std::string& catalogue, const std::string& installed = "") {
     fs::copy_file(S2K2NGT_LIBRARY, m_Folder.Path() / "libs2k2ngt.so");
     if (!catalogue.empty()) {
       fs::copy_file(catalogue, m_Folder.Path() / "Convertmsg.DLL");
+    }
+    if (!installed.empty()) {
+      fs::create_directory(m_Folder.Path() / "s2k2ngt");
+      fs::copy_file(installed, m_Folder.Path() / "s2k2ngt" / "Convertmsg.DLL");
     }
     m_Library = dlopen(m_Folder.FileName("libs2k2ngt.so").c_str(), RTLD_NOW | RTLD_LOCAL);
     if (m_Library == nullptr) {
@@ -134,6 +139,17 @@ TEST(Library, LoadsTheCatalogueThatLiesBesideIt) {
   EXPECT_THAT(texts, SizeIs(4));
   EXPECT_THAT(texts, Each(testing::Not(kBuiltInText)));
   EXPECT_THAT(texts[1], testing::HasSubstr("B1"));
+}
+
+TEST(Library, LoadsTheCatalogueOfAnInstallation) {
+  LoadedLibrary library("", S2K2NGT_CATALOGUE);
+  EXPECT_THAT(library.TextsOfRun(kReplacedOffset)[1], testing::HasSubstr("B1"));
+}
+
+TEST(Library, CatalogueBesideItGoesBeforeThatOfAnInstallation) {
+  LoadedLibrary library(S2K2NGT_CATALOGUE, S2K2NGT_CATALOGUE_OF_ANOTHER);
+  EXPECT_THAT(library.TextsOfRun(kReplacedOffset)[1],
+              testing::StartsWith("Frame B1 already had end offsets"));
 }
 
 TEST(Library, WithoutACatalogueEveryMessageShowsTheBuiltInText) {

@@ -20,10 +20,17 @@ std::string OwnFolder() {
 }  // namespace
 
 LibraryHandle LoadDynamicLibrary(const char* fileName) {
-  // The system's own order does not begin beside the library that asks.
-  const std::string beside = OwnFolder() + fileName;
-  void* const library = dlopen(beside.c_str(), RTLD_NOW | RTLD_LOCAL);
-  return library != nullptr ? library : dlopen(fileName, RTLD_NOW | RTLD_LOCAL);
+  // The system's own order does not begin beside the library that asks. Where it is installed, its
+  // folder belongs to all libraries, and what it brings lies in a folder of its own there.
+  if (const std::string folder = OwnFolder(); !folder.empty()) {
+    for (const char* const place : {"", "s2k2ngt/"}) {
+      const std::string path = folder + place + fileName;
+      if (void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
+        return library;
+      }
+    }
+  }
+  return dlopen(fileName, RTLD_NOW | RTLD_LOCAL);
 }
 
 void* FindDynamicSymbol(LibraryHandle library, const char* symbol) {
