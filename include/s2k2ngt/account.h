@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -37,8 +36,17 @@ struct Reason {
   const char* Advice;
 };
 
+/// Reasons one behind the other, to be walked by a range-based for.
+struct ReasonList {
+  const Reason* First;
+  std::size_t Count;
+
+  const Reason* begin() const { return First; }
+  const Reason* end() const { return First + Count; }
+};
+
 /// All reasons, in the order of the source's topics.
-S2K2NGT_API std::span<const Reason> Reasons();
+S2K2NGT_API ReasonList Reasons();
 
 /// So many rows of a table have this reason. A row that has several is counted under each.
 struct ReasonCount {

@@ -23,6 +23,7 @@
 
 /* NOLINTBEGIN(modernize-deprecated-headers, modernize-use-using): this is C */
 #include <stddef.h>
+#include <stdint.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -32,6 +33,39 @@ extern "C" {
 #define S2K2NGT_CONVERTED 0
 #define S2K2NGT_STOPPED 1
 #define S2K2NGT_FAILED (-1)
+
+/* What became of a row of the source file. */
+#define S2K2NGT_ROW_CONVERTED 0
+#define S2K2NGT_ROW_CHANGED 1       /* it went over, but not as it stood */
+#define S2K2NGT_ROW_DROPPED 2       /* left out by a rule of the conversion */
+#define S2K2NGT_ROW_REFUSED 3       /* the host has no like for it */
+#define S2K2NGT_ROW_NOT_LOOKED_AT 4 /* nothing reads its table, or the run ended before */
+
+/* The rows below one title of the source file. Later versions add to its end. */
+typedef struct s2k2ngt_table {
+  const char* title; /* as it stands */
+  uint64_t line;     /* of the title, from 1 */
+  int id;            /* by which the conversion knows the table; 0 for an unknown title */
+  /* The key of the message that the table calls for, or "". */
+  const char* message;
+  uint64_t rows;
+  /* The rows by S2K2NGT_ROW_...; their sum is `rows`. */
+  uint64_t by_fate[5];
+} s2k2ngt_table;
+
+/* Rows of a table that did not go over as they stood, and why: a single row, or all rows that have
+ * the reason of their whole table. Later versions add to its end. */
+typedef struct s2k2ngt_loss {
+  uint64_t rows;     /* 1 for a single row */
+  uint32_t position; /* of the row below its title, from 1; 0 for those of a whole table */
+  uint64_t line;     /* of the row; of the title for those of a whole table */
+  const char* label; /* the row's first key with its value, as "Frame=12", or "" */
+  int fate;          /* S2K2NGT_ROW_..., never S2K2NGT_ROW_CONVERTED */
+  int is_loss;       /* 0 where no part of the model goes missing or is altered */
+  const char* code;  /* of the reason; it stays the same in later versions */
+  const char* text;  /* what became of the row: a sentence */
+  const char* advice;
+} s2k2ngt_loss;
 
 /* The host's call-backs, each of which may be null. They are called on the thread that called
  * s2k2ngt_convert. Texts are valid during the call alone. */
@@ -48,6 +82,11 @@ typedef struct s2k2ngt_host {
   int (*stop)(void* context);
   /* Called once, with the reason, when the result is -1: file, line, table and what is wrong. */
   void (*failure)(void* context, const char* reason);
+  /* The account of the file's rows, told when the run has ended, whatever its result: each table in
+   * the order of the file, and behind it the reasons of its rows. It is kept if one of these two is
+   * there; the output and the messages are the same with it and without. */
+  void (*table)(void* context, const s2k2ngt_table* table);
+  void (*loss)(void* context, const s2k2ngt_loss* loss);
 } s2k2ngt_host;
 
 /* Converts the file at `path` and writes the output beside it: all of the path up to its last dot,
@@ -60,10 +99,14 @@ typedef struct s2k2ngt_host {
 S2K2NGT_API int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output,
                                 size_t output_size);
 
-/* The same for a file that the user chooses. Messages and progress are shown to the user, on
- * Windows in windows and elsewhere on a terminal; of the host's call-backs only `failure` is
- * called. Result 1 also stands for a user who chose no file. entry_points.h has the same for C++
- * hosts. */
+/* A dry run: converts the file and calls back as s2k2ngt_convert does, but writes and replaces
+ * nothing. */
+S2K2NGT_API int s2k2ngt_check(const char* path, const s2k2ngt_host* host);
+
+/* s2k2ngt_convert for a file that the user chooses. Messages and progress are shown to the user, on
+ * Windows in windows and elsewhere on a terminal; of the host's call-backs only `failure`, `table`
+ * and `loss` are called. Result 1 also stands for a user who chose no file. entry_points.h has the
+ * same for C++ hosts. */
 S2K2NGT_API int s2k2ngt_convert_chosen(const s2k2ngt_host* host, char* output, size_t output_size);
 
 /* The library's version, such as "0.1.0". */

@@ -51,7 +51,7 @@ int RankOf(std::uint8_t why) { return RankOf(kReasons[why].Fate); }
 
 // ---- Reasons and accounts ----
 
-std::span<const Reason> Reasons() { return kReasons; }
+ReasonList Reasons() { return {kReasons.data(), kReasons.size()}; }
 
 std::uint64_t Account::With(RowFate fate) const {
   std::uint64_t rows = 0;

@@ -8,8 +8,12 @@
 #include <s2k2ngt/s2k2ngt.h>
 #include <s2k2ngt/version.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <exception>
+#include <iterator>
+#include <map>
 #include <string>
 
 namespace s2k2ngt {
@@ -60,6 +64,8 @@ s2k2ngt_host KnownPartOf(const s2k2ngt_host* host) {
   take(&s2k2ngt_host::progress);
   take(&s2k2ngt_host::stop);
   take(&s2k2ngt_host::failure);
+  take(&s2k2ngt_host::table);
+  take(&s2k2ngt_host::loss);
   return known;
 }
 
@@ -73,8 +79,72 @@ void TellFailure(const s2k2ngt_host& host, const char* reason) noexcept {
   }
 }
 
+static_assert(S2K2NGT_ROW_CONVERTED == static_cast<int>(RowFate::Converted) &&
+              S2K2NGT_ROW_CHANGED == static_cast<int>(RowFate::Changed) &&
+              S2K2NGT_ROW_DROPPED == static_cast<int>(RowFate::Dropped) &&
+              S2K2NGT_ROW_REFUSED == static_cast<int>(RowFate::Refused) &&
+              S2K2NGT_ROW_NOT_LOOKED_AT == static_cast<int>(RowFate::NotLookedAt));
+
+void TellTable(const s2k2ngt_host& host, const TableAccount& table) {
+  if (host.table == nullptr) {
+    return;
+  }
+  s2k2ngt_table told = {};
+  told.title = table.Title.c_str();
+  told.line = table.Line;
+  told.id = table.TableId;
+  told.message = table.Message.c_str();
+  told.rows = table.Rows;
+  std::copy(std::begin(table.ByFate), std::end(table.ByFate), told.by_fate);
+  host.table(host.context, &told);
+}
+
+void TellLoss(const s2k2ngt_host& host, const RowLoss& row, std::uint64_t rows) {
+  const Reason& why = *row.Why;
+  const s2k2ngt_loss told = {rows,
+                             row.Position,
+                             row.Line,
+                             row.Label.c_str(),
+                             static_cast<int>(why.Fate),
+                             why.IsLoss ? 1 : 0,
+                             why.Code,
+                             why.Text,
+                             why.Advice};
+  host.loss(host.context, &told);
+}
+
+bool WantsAccount(const s2k2ngt_host& host) {
+  return host.table != nullptr || host.loss != nullptr;
+}
+
+void TellAccount(const s2k2ngt_host& host, const Account& account) {
+  auto row = account.Losses.begin();
+  for (std::uint32_t number = 0; number < account.Tables.size(); ++number) {
+    const TableAccount& table = account.Tables[number];
+    TellTable(host, table);
+    if (host.loss == nullptr) {
+      continue;
+    }
+    std::map<const Reason*, std::uint64_t> ofWholeTable;
+    for (const ReasonCount& count : table.Reasons) {
+      ofWholeTable[count.Why] = count.Rows;
+    }
+    for (; row != account.Losses.end() && row->Table == number; ++row) {
+      --ofWholeTable[row->Why];
+      TellLoss(host, *row, 1);
+    }
+    for (const ReasonCount& count : table.Reasons) {
+      if (ofWholeTable[count.Why] > 0) {
+        TellLoss(host, {number, 0, table.Line, {}, count.Why}, ofWholeTable[count.Why]);
+      }
+    }
+  }
+}
+
+enum class Output { BesideInput, Nowhere };
+
 int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char* output,
-            std::size_t outputSize) {
+            std::size_t outputSize, Output where = Output::BesideInput) {
   const std::string outputPath = CConverter::OutputPath(path);
   if (outputSize > 0 && outputPath.size() + 1 > outputSize) {
     TellFailure(host, "the buffer for the path of the output is too small");
@@ -82,11 +152,15 @@ int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char
   }
   int result = kFailed;
   std::string reason;
+  Account account;
   {
     // It goes before the host is told, and its progress window with it.
     CConverter converter(platform);
+    RunOptions options;
+    options.WritesOutput = where == Output::BesideInput;
+    options.KeepsAccount = WantsAccount(host);
     try {
-      result = converter.Run(path);
+      result = converter.Run(path, options);
     } catch (const std::exception&) {
       result = kFailed;
       if (converter.Failure().Reason.empty()) {
@@ -94,7 +168,9 @@ int Convert(const char* path, Platform& platform, const s2k2ngt_host& host, char
       }
     }
     reason = converter.Failure().Describe(path);
+    account = converter.AccountOfRows();
   }
+  TellAccount(host, account);
   if (result == kFailed) {
     TellFailure(host, reason.c_str());
   } else if (result == kConverted && outputSize > 0) {
@@ -133,6 +209,13 @@ int s2k2ngt_convert(const char* path, const s2k2ngt_host* host, char* output, si
   return s2k2ngt::Guard(host, isComplete, [&](const s2k2ngt_host& known) {
     s2k2ngt::CallBackPlatform platform(known);
     return s2k2ngt::Convert(path, platform, known, output, output_size);
+  });
+}
+
+int s2k2ngt_check(const char* path, const s2k2ngt_host* host) {
+  return s2k2ngt::Guard(host, path != nullptr, [&](const s2k2ngt_host& known) {
+    s2k2ngt::CallBackPlatform platform(known);
+    return s2k2ngt::Convert(path, platform, known, nullptr, 0, s2k2ngt::Output::Nowhere);
   });
 }
 
