@@ -5,10 +5,13 @@
 
 /// How the command was called.
 struct CommandOptions {
-  std::vector<std::string> Files;
-  bool Json = false;        // one object a file on standard output
-  bool Quiet = false;       // no messages and no progress, but failures
-  bool NoProgress = false;  // no progress bar
+  std::vector<std::string> Files;  // and folders
+  bool Recursive = false;          // folders are all source files in them
+  std::string OutputDirectory;     // empty: each output beside its input
+  unsigned Jobs = 0;               // processes at once, one for each file; 0: none but this one
+  bool Json = false;               // one object a file on standard output
+  bool Quiet = false;              // no messages and no progress, but failures
+  bool NoProgress = false;         // no progress bar
 };
 
 // Exit statuses.
@@ -17,7 +20,7 @@ inline constexpr int kOneStopped = 1;
 inline constexpr int kOneFailed = 2;
 inline constexpr int kWrongUsage = 64;
 
-/// Converts the files one after the other, whatever becomes of each, and returns the exit status.
+/// Converts the files, whatever becomes of each, and returns the exit status.
 int ConvertFiles(const CommandOptions& options);
 
 /// Prints the message keys and their texts.

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <iostream>
+#include <ostream>
 #include <system_error>
 #include <utility>
 
@@ -20,9 +20,11 @@ namespace {
 /// The terminal, which also keeps what it shows for those who ask for JSON.
 class CommandPlatform : public s2k2ngt::TerminalPlatform {
  public:
-  CommandPlatform(const CommandOptions& options, std::string file, std::vector<Message>& shown)
-      : TerminalPlatform(
-            {.Messages = !options.Quiet, .Progress = !options.Quiet && !options.NoProgress}),
+  CommandPlatform(const CommandOptions& options, std::string file, std::ostream& err,
+                  std::vector<Message>& shown)
+      : TerminalPlatform({.Messages = !options.Quiet,
+                          .Progress = !options.Quiet && !options.NoProgress,
+                          .Stream = &err}),
         m_KeepsMessages(options.Json),
         m_File(std::move(file)),
         m_Shown(shown) {}
@@ -56,44 +58,27 @@ bool IsUtf16(const std::string& path) {
   return hasMark || (first[0] == 0) != (first[1] == 0);
 }
 
-void PrintLine(const std::string& text) {
-  std::cerr << "s2k2ngt: " << s2k2ngt::Printable(text) << '\n';
+/// Why a file is not even begun with, in words for the user.
+std::optional<std::string> WhyNotConverted(const FileToConvert& file,
+                                           const CommandOptions& options) {
+  if (file.Refusal) {
+    return file.Input + ": " + *file.Refusal;
+  }
+  if (IsUtf16(file.Input)) {
+    return file.Input + ": it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
+  }
+  if (!options.OutputDirectory.empty()) {
+    std::error_code error;
+    const std::filesystem::path output = s2k2ngt::NativePath(file.Output);
+    std::filesystem::create_directories(output.parent_path(), error);
+    if (error) {
+      return file.Input + ": cannot make the folder of " + file.Output + ": " + error.message();
+    }
+  }
+  return std::nullopt;
 }
 
-}  // namespace
-
-Outcome Convert(const std::string& file, const CommandOptions& options, FilesOfCall& files) {
-  Outcome outcome;
-  const std::string output = CConverter::OutputPath(file);
-  if (const auto reason = files.WhyNotWritten(file, output)) {
-    outcome.Error = file + ": " + *reason;
-    return outcome;
-  }
-  if (IsUtf16(file)) {
-    outcome.Error = file + ": it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
-    return outcome;
-  }
-  CommandPlatform platform(options, file, outcome.Messages);
-  CConverter converter(platform);
-  try {
-    outcome.Result = converter.Run(file.c_str());
-  } catch (const std::exception&) {
-    outcome.Result = s2k2ngt::kFailed;
-  }
-  const s2k2ngt::Diagnostic& ended = converter.Failure();
-  if (outcome.Result == s2k2ngt::kConverted) {
-    outcome.Output = output;
-    outcome.IsEmpty = converter.RowCount() == 0;
-  } else if (outcome.Result == s2k2ngt::kFailed) {
-    outcome.Error = ended.Reason.empty() ? file + ": there is not enough memory to begin"
-                                         : ended.Describe(file);
-  } else if (ended.Phase == s2k2ngt::kWriting) {
-    outcome.Unfinished = output;
-  }
-  return outcome;
-}
-
-void PrintJson(const std::string& file, const Outcome& outcome) {
+void PrintJson(const std::string& file, const Outcome& outcome, std::ostream& out) {
   using nlohmann::ordered_json;
   const auto textOrNull = [](const std::optional<std::string>& text) {
     return text ? ordered_json(*text) : ordered_json(nullptr);
@@ -108,18 +93,64 @@ void PrintJson(const std::string& file, const Outcome& outcome) {
                                {"messages", messages},
                                {"error", textOrNull(outcome.Error)}};
   // Labels are bytes of any character set; JSON is UTF-8.
-  std::cout << object.dump(-1, ' ', false, ordered_json::error_handler_t::replace) << std::endl;
+  out << object.dump(-1, ' ', false, ordered_json::error_handler_t::replace) << std::endl;
 }
 
-void PrintOutcome(const std::string& file, const Outcome& outcome, const CommandOptions& options) {
+void PrintOutcome(const std::string& file, const Outcome& outcome, const CommandOptions& options,
+                  std::ostream& err) {
   if (outcome.Error) {
-    PrintLine(*outcome.Error);
+    PrintLine(err, *outcome.Error);
   } else if (outcome.Unfinished) {
-    PrintLine(file + ": stopped; " + *outcome.Unfinished + " is left unfinished");
+    PrintLine(err, file + ": stopped; " + *outcome.Unfinished + " is left unfinished");
   } else if (outcome.Result == s2k2ngt::kStopped) {
-    PrintLine(file + ": stopped");
+    PrintLine(err, file + ": stopped");
   } else if (!options.Quiet) {
-    PrintLine(file + ": converted to " + *outcome.Output +
-              (outcome.IsEmpty ? ", which is empty: the file has no row that is converted" : ""));
+    PrintLine(err, file + ": converted to " + *outcome.Output +
+                       (outcome.IsEmpty ? ", which is empty: the file has no row that is converted"
+                                        : ""));
   }
+}
+
+}  // namespace
+
+Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::ostream& err) {
+  Outcome outcome;
+  if (s2k2ngt::WasInterrupted()) {
+    outcome.Result = s2k2ngt::kStopped;
+    return outcome;
+  }
+  outcome.Error = WhyNotConverted(file, options);
+  if (outcome.Error) {
+    return outcome;
+  }
+  CommandPlatform platform(options, file.Input, err, outcome.Messages);
+  CConverter converter(platform);
+  try {
+    outcome.Result = converter.Run(file.Input.c_str(), {.Output = file.Output});
+  } catch (const std::exception&) {
+    outcome.Result = s2k2ngt::kFailed;
+  }
+  const s2k2ngt::Diagnostic& ended = converter.Failure();
+  if (outcome.Result == s2k2ngt::kConverted) {
+    outcome.Output = file.Output;
+    outcome.IsEmpty = converter.RowCount() == 0;
+  } else if (outcome.Result == s2k2ngt::kFailed) {
+    outcome.Error = ended.Reason.empty() ? file.Input + ": there is not enough memory to begin"
+                                         : ended.Describe(file.Input);
+  } else if (ended.Phase == s2k2ngt::kWriting) {
+    outcome.Unfinished = file.Output;
+  }
+  return outcome;
+}
+
+void Tell(const FileToConvert& file, const Outcome& outcome, const CommandOptions& options,
+          Streams streams) {
+  PrintOutcome(file.Input, outcome, options, streams.Err);
+  if (options.Json) {
+    PrintJson(file.Input, outcome, streams.Out);
+  }
+}
+
+void PrintLine(std::ostream& err, const std::string& text) {
+  err << "s2k2ngt: " << s2k2ngt::Printable(text) << '\n';
 }

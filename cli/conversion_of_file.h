@@ -1,10 +1,11 @@
 #pragma once
 
 #include "command.h"
-#include "files_of_call.h"
+#include "inputs.h"
 
 #include <s2k2ngt/converter.h>
 
+#include <iosfwd>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,10 +25,18 @@ struct Outcome {
   std::optional<std::string> Unfinished;  // output that a stop has left on disk
 };
 
-Outcome Convert(const std::string& file, const CommandOptions& options, FilesOfCall& files);
+/// The streams of a call, or what stands for them: one line of JSON a file, and all for people.
+struct Streams {
+  std::ostream& Out;
+  std::ostream& Err;
+};
 
-/// Prints what became of a file as a line of JSON.
-void PrintJson(const std::string& file, const Outcome& outcome);
+/// Converts a file, unless it is refused or the user has stopped the call, and shows its messages.
+Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::ostream& err);
 
-/// Tells people what became of a file.
-void PrintOutcome(const std::string& file, const Outcome& outcome, const CommandOptions& options);
+/// Tells what became of a file.
+void Tell(const FileToConvert& file, const Outcome& outcome, const CommandOptions& options,
+          Streams streams);
+
+/// Writes a line of the command's own for people.
+void PrintLine(std::ostream& err, const std::string& text);

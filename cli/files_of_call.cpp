@@ -31,10 +31,6 @@ FilesOfCall::FilesOfCall(const std::vector<std::string>& inputs) {
 
 std::optional<std::string> FilesOfCall::WhyNotWritten(const std::string& input,
                                                       const std::string& output) {
-  if (NativePath(input).parent_path() != NativePath(output).parent_path()) {
-    // The last dot of the path is in the name of a folder.
-    return "the output would not lie beside the input; rename the input to end in .s2k";
-  }
   if (AreTheSame(input, output)) {
     return "the output would replace the input; rename the input to end in .s2k";
   }
@@ -47,4 +43,8 @@ std::optional<std::string> FilesOfCall::WhyNotWritten(const std::string& input,
     return "the output would replace that of " + earlier->second;
   }
   return std::nullopt;
+}
+
+bool FilesOfCall::IsWritten(const std::string& output) const {
+  return m_InputOfOutput.contains(TrueName(output));
 }

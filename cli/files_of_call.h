@@ -16,6 +16,9 @@ class FilesOfCall {
   /// reason, in words for the user.
   std::optional<std::string> WhyNotWritten(const std::string& input, const std::string& output);
 
+  /// True when note was taken of the output.
+  bool IsWritten(const std::string& output) const;
+
  private:
   std::set<std::filesystem::path> m_Inputs;
   std::map<std::filesystem::path, std::string> m_InputOfOutput;

@@ -4,9 +4,13 @@
 #include <s2k2ngt/s2k2ngt.h>
 
 #include <array>
+#include <charconv>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <vector>
 
 #include <getopt.h>
@@ -21,6 +25,11 @@ files (.ngt), one after the other. Each output is written beside its input,
 under the same name; a file that is there is replaced.
 
 Options:
+  -r, --recursive  a FILE may be a folder: all .s2k files in it, at any depth
+  -o, --output-dir DIR
+                   write outputs into DIR, which is made if it is not there;
+                   those of a folder keep their places below it
+  -j, --jobs N     convert up to N files at once, each in a process of its own
   --json           print what became of each file as one line of JSON
   --quiet          show no messages and no progress, only failures
   --no-progress    show no progress bar
@@ -33,10 +42,37 @@ Exit status: 0 all files converted, 1 a run was stopped, 2 at least one file
 failed, 64 wrong usage.
 )";
 
+int WrongUsage(const std::string& reason) {
+  std::cerr << "s2k2ngt: " << reason << "\nTry s2k2ngt --help.\n";
+  return kWrongUsage;
+}
+
+std::optional<unsigned> WholeNumber(std::string_view text) {
+  unsigned number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) {
+    return std::nullopt;
+  }
+  return number;
+}
+
 int Run(std::vector<std::string> words, const Console& console) {
-  enum Option : int { Json = 1, Quiet, NoProgress, ListAllMessages, Help, Version };
-  constexpr std::array<option, 7> kOptions = {
-      {{"json", no_argument, nullptr, Json},
+  enum Option : int {
+    Recursive = 'r',
+    OutputDirectory = 'o',
+    Jobs = 'j',
+    Json = 1,
+    Quiet,
+    NoProgress,
+    ListAllMessages,
+    Help,
+    Version
+  };
+  constexpr std::array<option, 10> kOptions = {
+      {{"recursive", no_argument, nullptr, Recursive},
+       {"output-dir", required_argument, nullptr, OutputDirectory},
+       {"jobs", required_argument, nullptr, Jobs},
+       {"json", no_argument, nullptr, Json},
        {"quiet", no_argument, nullptr, Quiet},
        {"no-progress", no_argument, nullptr, NoProgress},
        {"list-messages", no_argument, nullptr, ListAllMessages},
@@ -53,11 +89,26 @@ int Run(std::vector<std::string> words, const Console& console) {
   CommandOptions options;
   options.NoProgress = !console.CanDraw();
   for (;;) {
-    const int option = getopt_long(count, arguments.data(), "", kOptions.data(), nullptr);
+    const int option = getopt_long(count, arguments.data(), "ro:j:", kOptions.data(), nullptr);
     if (option == -1) {
       break;
     }
     switch (option) {
+      case Recursive:
+        options.Recursive = true;
+        break;
+      case OutputDirectory:
+        options.OutputDirectory = optarg;
+        if (options.OutputDirectory.empty()) {
+          return WrongUsage("the output folder has no name");
+        }
+        break;
+      case Jobs:
+        if (const std::optional<unsigned> jobs = WholeNumber(optarg)) {
+          options.Jobs = *jobs;
+          break;
+        }
+        return WrongUsage("--jobs wants a number, not " + std::string(optarg));
       case Json:
         options.Json = true;
         break;
@@ -83,8 +134,7 @@ int Run(std::vector<std::string> words, const Console& console) {
   }
   options.Files.assign(arguments.begin() + optind, arguments.begin() + count);
   if (options.Files.empty()) {
-    std::cerr << "s2k2ngt: there is no file to convert\nTry s2k2ngt --help.\n";
-    return kWrongUsage;
+    return WrongUsage("there is no file to convert");
   }
   return ConvertFiles(options);
 }

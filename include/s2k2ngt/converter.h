@@ -38,7 +38,7 @@ struct S2K2NGT_API Diagnostic {
 
 /// What a run does besides what it does always.
 struct RunOptions {
-  /// Path of the output; empty for the one that OutputPath gives.
+  /// Path of the output, which stands in its head; empty for the one that OutputPath gives.
   std::string Output;
   /// False for a dry run: everything is converted, and shown, but no file is written or replaced.
   bool WritesOutput = true;

@@ -1,22 +1,25 @@
 #include "platform/terminal/interrupt.h"
 
-#include <csignal>
-
 namespace s2k2ngt {
 namespace {
 
 volatile std::sig_atomic_t g_interrupted = 0;
 
-void NoteInterrupt(int /*signal*/) {
+void NoteInterrupt(int signal) {
   g_interrupted = 1;
-  std::signal(SIGINT, SIG_DFL);
+  std::signal(signal, SIG_DFL);
 }
 
 }  // namespace
 
-InterruptGuard::InterruptGuard() : m_Before(std::signal(SIGINT, NoteInterrupt)) {}
+InterruptGuard::InterruptGuard(int signal)
+    : m_Signal(signal), m_Before(std::signal(signal, NoteInterrupt)) {
+  if (m_Before == SIG_IGN) {
+    std::signal(signal, SIG_IGN);
+  }
+}
 
-InterruptGuard::~InterruptGuard() { std::signal(SIGINT, m_Before); }
+InterruptGuard::~InterruptGuard() { std::signal(m_Signal, m_Before); }
 
 bool WasInterrupted() { return g_interrupted != 0; }
 

@@ -48,7 +48,7 @@ std::optional<std::string> TerminalPlatform::ChooseFile(const FileDialog& /*dial
 void TerminalPlatform::ShowMessage(const std::string& /*key*/, const std::string& text) {
   if (m_Options.Messages) {
     EraseBar();
-    std::cerr << Printable(text) << '\n';
+    *m_Options.Stream << Printable(text) << '\n';
   }
 }
 

@@ -5,6 +5,7 @@
 #include <s2k2ngt/platform.h>
 
 #include <chrono>
+#include <iostream>
 #include <optional>
 #include <string>
 
@@ -14,13 +15,14 @@ namespace s2k2ngt {
 /// terminal they must not move the cursor or do worse.
 std::string Printable(std::string text);
 
-/// Shows messages as lines on standard error and progress as a bar, if that is a terminal. Ctrl-C
-/// stops the run while its progress is shown.
+/// Shows messages as lines, on standard error if no other stream is named, and progress as a bar,
+/// if that is a terminal. Ctrl-C stops the run while its progress is shown.
 class TerminalPlatform : public Platform {
  public:
   struct Options {
     bool Messages = true;
     bool Progress = true;
+    std::ostream* Stream = &std::cerr;  // of the messages; the bar is drawn on the terminal alone
   };
 
   TerminalPlatform();
