@@ -2,18 +2,43 @@
 
 #include "common/files.h"
 
+#include <string>
 #include <system_error>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 using s2k2ngt::NativePath;
 
 namespace {
 
+/// The path behind links to a file that is not there yet.
+std::filesystem::path BehindLinks(std::filesystem::path path) {
+  constexpr int kMostLinks = 40;
+  std::error_code unknown;
+  for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(path, unknown) &&
+                      !std::filesystem::exists(path, unknown);
+       ++links) {
+    path = path.parent_path() / std::filesystem::read_symlink(path, unknown);
+  }
+  return path;
+}
+
 /// One name for all the names of a file, or of one that is not there yet.
 std::filesystem::path TrueName(const std::string& path) {
   std::error_code unknown;
-  const std::filesystem::path whole = std::filesystem::absolute(NativePath(path), unknown);
+  const std::filesystem::path whole =
+      BehindLinks(std::filesystem::absolute(NativePath(path), unknown));
   const std::filesystem::path name = std::filesystem::weakly_canonical(whole, unknown);
+#ifdef _WIN32
+  // Capital letters make no other file, and one that is not there yet has no name to go by.
+  std::wstring text = (unknown ? whole : name).wstring();
+  CharLowerW(text.data());
+  return text;
+#else
   return unknown ? whole : name;
+#endif
 }
 
 bool AreTheSame(const std::string& input, const std::string& output) {

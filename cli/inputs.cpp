@@ -45,7 +45,7 @@ void FindIn(const path& folder, std::vector<Found>& found) {
   std::filesystem::directory_iterator entry(folder, error);
   for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
     std::error_code unknown;
-    if (entry->symlink_status(unknown).type() == file_type::directory) {
+    if (!entry->is_symlink(unknown) && entry->is_directory(unknown)) {
       FindIn(entry->path(), found);
       continue;
     }

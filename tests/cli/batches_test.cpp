@@ -171,6 +171,16 @@ TEST_F(Batches, SecondInputWithTheSameOutputIsRefused) {
                           "north/deck/a.s2k: the output would replace that of south/a.s2k"));
 }
 
+TEST_F(Batches, OutputsThatAreLinksToTheSameNewFileAreNotBothWritten) {
+  WriteBelow("a.s2k");
+  WriteBelow("b.s2k");
+  std::filesystem::create_symlink("c.ngt", m_Folder.Path() / "a.ngt");
+  std::filesystem::create_symlink("b.ngt", m_Folder.Path() / "c.ngt");
+  const CommandRun run = Call({"--json", "a.s2k", "b.s2k"});
+  EXPECT_THAT(Values(run, "error"),
+              ElementsAre("null", "b.s2k: the output would replace that of a.s2k"));
+}
+
 TEST_F(Batches, OutputFolderMayNotMakeAnOutputReplaceAnInput) {
   WriteBelow("a.s2k");
   WriteBelow("results/a.ngt", "an input");
