@@ -1,13 +1,12 @@
 #include "conversion_of_file.h"
 #include "workers.h"
 
-#include <algorithm>
 #include <deque>
+#include <functional>
 #include <future>
 #include <iostream>
 #include <sstream>
 #include <string>
-#include <utility>
 
 namespace {
 

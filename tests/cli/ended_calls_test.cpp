@@ -21,7 +21,6 @@ namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
-using testing::Not;
 
 /// The output is a pipe that takes less than one piece of what is written, so that the command
 /// stands in the middle of its writing until the test reads on.

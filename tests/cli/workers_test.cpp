@@ -22,7 +22,6 @@ namespace {
 using nlohmann::json;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 class Workers : public CommandTest {
