@@ -79,8 +79,11 @@ TEST_F(EndedCalls, StopAllWorkersInOrderAndNameTheirOutputs) {
         CallWhileWriting({"--json", "-j", "1", "large.s2k", "next.s2k"}, [&](pid_t process) {
           const pid_t worker = ChildrenOf(process).at(0);
           WaitFor([&] { return Catches(worker, SIGUSR1); });
-          // As a terminal does, or a scheduler: to all of them.
-          kill(worker, signal);
+          // As a terminal does, or a scheduler: to all of them, and again.
+          for (int times = 0; times < 3; ++times) {
+            kill(worker, signal);
+            WaitFor([&] { return StatusLine(worker, "ShdPnd:") == "0000000000000000"; });
+          }
           kill(process, signal);
           WaitFor([&] { return !Catches(worker, SIGUSR1); });
         });

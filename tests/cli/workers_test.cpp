@@ -4,10 +4,13 @@
 #include "support/command_run.h"
 #include "support/temporary_folder.h"
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <fcntl.h>
@@ -153,12 +156,20 @@ TEST_F(Workers, NeverWriteTheSameOutputAtOnce) {
   const CommandRun run = CallWhile({"--json", "-j", "4", "a.s2k", "./a.s2k"}, [&](pid_t process) {
     {
       const std::ofstream writer(a);
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));  // for one that must not come
       const std::vector<pid_t> children = ChildrenOf(process);
       EXPECT_EQ(children.size(), 1U);
       kill(children.at(0), SIGKILL);
       WaitFor([&] { return HasEnded(children.at(0)); });
     }
-    std::ofstream(a) << kOneJoint;
+    int writer = -1;  // opened as soon as the second begins to read
+    WaitFor([&] {
+      writer = open(a.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+      return writer != -1;
+    });
+    EXPECT_EQ(write(writer, kOneJoint.data(), kOneJoint.size()),
+              static_cast<ssize_t>(kOneJoint.size()));
+    close(writer);
   });
   const std::vector<json> objects = JsonLines(run.Out);
   ASSERT_EQ(objects.size(), 2U);
