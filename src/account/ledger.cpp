@@ -4,7 +4,6 @@
 #include "source/table_catalogue.h"
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 #include <stdexcept>
 #include <utility>
@@ -12,8 +11,8 @@
 namespace s2k2ngt {
 namespace {
 
-/// The first pair of a row as it stands, by which people know the row.
-Text LabelOf(Text row) {
+/// The first pair of a row as it stands.
+Text FirstPair(Text row) {
   RowPairs pairs(row);
   if (!pairs.Next()) {
     return row;
@@ -85,7 +84,7 @@ std::size_t Ledger::KindOfRecord(Text record) {
   return static_cast<std::size_t>(found - kinds.begin());
 }
 
-void Ledger::Enter(const TableBlock& block, Text record) {
+void Ledger::Enter(const TableBlock& block, Text record, LabelFunction labelOf) {
   const bool isFurther = block.FurtherLine > 0;
   Block entry;
   entry.Title = isFurther ? block.FurtherTitle : block.Title;
@@ -98,12 +97,7 @@ void Ledger::Enter(const TableBlock& block, Text record) {
       entry.Lines.push_back(static_cast<std::uint32_t>(row.Line - entry.Line));
     }
   }
-  entry.Lengths.reserve(block.Rows.size());
-  for (const SourceRow& row : block.Rows) {
-    const Text label = LabelOf(row.Content).substr(0, std::numeric_limits<std::uint8_t>::max());
-    entry.Labels += label;
-    entry.Lengths.push_back(static_cast<std::uint8_t>(label.size()));
-  }
+  entry.LabelOf = std::move(labelOf);
   m_Blocks.push_back(std::move(entry));
   if (!record.empty()) {
     const std::size_t number = KindOfRecord(record);
@@ -121,6 +115,7 @@ void Ledger::WriteOver(Kind& kind, std::uint32_t rows) {
     const std::uint32_t before = kind.back();
     const std::uint32_t end = std::min(m_Blocks[before].Rows, rows);
     for (std::uint32_t row = done; row < end; ++row) {
+      m_Blocks[before].Labels[row] = LabelOf(m_Blocks[before], row);
       NoteAt(before, row, kOverwritten.Number());
     }
     if (m_Blocks[before].Rows > rows) {
@@ -136,14 +131,10 @@ void Ledger::NoteBlock(Why why, Text message) {
   m_Blocks.back().Message = message;
 }
 
-void Ledger::NoteRowsFrom(std::uint32_t position, Why why) {
-  for (; position <= m_Blocks.back().Rows; ++position) {
-    NoteRow(position, why);
-  }
-}
-
-void Ledger::NoteRow(std::uint32_t position, Why why) {
-  NoteAt(static_cast<std::uint32_t>(m_Blocks.size() - 1), position - 1, why.Number());
+void Ledger::NoteRow(const TableBlock& block, std::uint32_t position, Why why) {
+  const std::uint32_t row = position - 1;
+  m_Blocks.back().Labels[row] = FirstPair(block.Rows[row].Content);
+  NoteAt(static_cast<std::uint32_t>(m_Blocks.size() - 1), row, why.Number());
 }
 
 // ---- While it is converted and written ----
@@ -212,6 +203,14 @@ std::uint64_t& RowsOf(RowFate fate, TableAccount& table) {
 
 }  // namespace
 
+std::string Ledger::LabelOf(const Block& block, std::uint32_t row) {
+  const auto known = block.Labels.find(row);
+  if (known != block.Labels.end()) {
+    return known->second;
+  }
+  return block.LabelOf ? block.LabelOf(row + 1) : std::string();
+}
+
 Account Ledger::MakeAccount(bool runIsWhole) const {
   std::vector<std::uint32_t> order(m_Blocks.size());
   std::iota(order.begin(), order.end(), 0);
@@ -243,7 +242,6 @@ void Ledger::Tell(const Block& block, std::span<const FurtherNote> further, bool
       block.WhyOfAll == kNone && !runIsWhole ? kRunEnded.Number() : block.WhyOfAll;
   const RowFate fateOfRest = ofRest == kNone ? RowFate::Converted : kReasons[ofRest].Fate;
   std::uint64_t rest = block.Rows;
-  std::size_t label = 0;
   auto next = further.begin();
   for (std::uint32_t row = 0; row < block.Whys.size(); ++row) {
     const std::uint8_t why = block.Whys[row];
@@ -253,18 +251,16 @@ void Ledger::Tell(const Block& block, std::span<const FurtherNote> further, bool
       ++RowsOf(RankOf(fate) < RankOf(fateOfRest) ? fateOfRest : fate, table);
       const std::uint64_t line =
           block.Line + (block.Lines.empty() ? std::uint64_t{row} + 1 : block.Lines[row]);
+      const std::string label = LabelOf(block, row);
       const auto tell = [&](std::uint8_t reason) {
         Count(reason, 1, table);
-        account.Losses.push_back({tableNumber, row + 1, line,
-                                  block.Labels.substr(label, block.Lengths[row]),
-                                  &kReasons[reason]});
+        account.Losses.push_back({tableNumber, row + 1, line, label, &kReasons[reason]});
       };
       tell(why);
       for (; next != further.end() && next->Row == row; ++next) {
         tell(next->Why);
       }
     }
-    label += block.Lengths[row];
   }
   RowsOf(fateOfRest, table) += rest;
   if (ofRest != kNone && rest > 0) {

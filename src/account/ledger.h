@@ -8,8 +8,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace s2k2ngt {
@@ -23,22 +26,23 @@ namespace s2k2ngt {
 /// key means the row that the model holds.
 class Ledger {
  public:
+  /// Gives the label of a row that the model holds at the moment.
+  using LabelFunction = std::function<std::string(std::uint32_t key)>;
+
   explicit Ledger(bool isKept) : m_IsKept(isKept) {}
 
   bool IsKept() const { return m_IsKept; }
 
   // ---- While the file is read ----
 
-  /// Enters the rows of a block. `record` is the name of the record that the model keeps them as;
-  /// empty for a block that goes to no table of the model.
-  void Enter(const TableBlock& block, Text record);
+  /// Enters the rows of a block. `record` is the name of the record that the model is to keep them
+  /// as; empty for a block that goes to no table of the model.
+  void Enter(const TableBlock& block, Text record = {}, LabelFunction labelOf = {});
   /// Gives all rows of the block that was entered last a reason. A message that the table calls
   /// for stands with it.
   void NoteBlock(Why why, Text message = {});
-  /// Gives the rows of the block that was entered last, from this position on, a reason.
-  void NoteRowsFrom(std::uint32_t position, Why why);
-  /// Gives a row of the block that was entered last a reason.
-  void NoteRow(std::uint32_t position, Why why);
+  /// Gives a row of the block, which was entered last, a reason. The row is not in the model.
+  void NoteRow(const TableBlock& block, std::uint32_t position, Why why);
 
   // ---- While it is converted and written ----
 
@@ -73,11 +77,11 @@ class Ledger {
     std::string Message;
     std::uint32_t Rows = 0;
     std::uint8_t WhyOfAll = kNone;
-    std::vector<std::uint8_t> Whys;  // of the rows, the worst of each; empty without any
-    std::vector<std::uint32_t>
-        Lines;           // behind the title; empty when the rows follow it line by line
-    std::string Labels;  // one behind the other
-    std::vector<std::uint8_t> Lengths;  // of the labels
+    std::vector<std::uint8_t> Whys;    // of the rows, the worst of each; empty without any
+    std::vector<std::uint32_t> Lines;  // behind the title; empty when they follow it one by one
+    LabelFunction LabelOf;             // of the rows that the model holds
+    std::map<std::uint32_t, std::string>
+        Labels;  // of rows that the model does not hold, or no more
   };
   /// A reason of a row that has a worse one, or one noted before.
   struct FurtherNote {
@@ -101,6 +105,7 @@ class Ledger {
   void NoteKind(std::size_t kind, Why why);
   void WriteOver(Kind& kind, std::uint32_t rows);
   void NoteAt(std::uint32_t block, std::uint32_t row, std::uint8_t why);
+  static std::string LabelOf(const Block& block, std::uint32_t row);
   static void Tell(const Block& block, std::span<const FurtherNote> further, bool runIsWhole,
                    Account& account);
 

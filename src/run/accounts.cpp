@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace s2k2ngt {
 namespace {
@@ -32,9 +33,16 @@ constexpr std::array<void (*)(Conversion& run), 0> kClosings = {};
 
 }  // namespace
 
-void EnterBlock(const TableBlock& block, const TableOutcome& outcome, Ledger& ledger) {
+void EnterBlock(const TableBlock& block, const TableOutcome& outcome, CModel& model,
+                Ledger& ledger) {
   const std::optional<TableUse> use = UseOfTable(outcome.Record);
-  ledger.Enter(block, use ? outcome.Record : Text());
+  if (use) {
+    ledger.Enter(block, outcome.Record, [&model, labelOf = use->Label](std::uint32_t key) {
+      return labelOf == nullptr ? std::string() : labelOf(model, key);
+    });
+  } else {
+    ledger.Enter(block);
+  }
   if (outcome.Fate == TableFate::Refused) {
     ledger.NoteBlock("table-refused", outcome.Message->Get());
   } else if (use && use->Lost) {
@@ -48,7 +56,9 @@ void EnterBlock(const TableBlock& block, const TableOutcome& outcome, Ledger& le
       ledger.NoteBlock("table-unknown");
     }
   } else if (outcome.Buckets == 0) {
-    ledger.NoteRowsFrom(2, "first-row-counts");
+    for (std::uint32_t position = 2; position <= block.Rows.size(); ++position) {
+      ledger.NoteRow(block, position, "first-row-counts");
+    }
   }
   if (block.FurtherLine > 0 && use && !use->Lost) {
     ledger.NoteBlock("read-under-title-before");
@@ -57,11 +67,11 @@ void EnterBlock(const TableBlock& block, const TableOutcome& outcome, Ledger& le
 
 void EnterRefusal(const TableBlock& block, const Refusal& refusal, Ledger& ledger) {
   const auto row = std::ranges::find(block.Rows, refusal.Line, &SourceRow::Line);
-  ledger.NoteRow(static_cast<std::uint32_t>(row - block.Rows.begin()) + 1, "row-refused");
+  ledger.NoteRow(block, static_cast<std::uint32_t>(row - block.Rows.begin()) + 1, "row-refused");
 }
 
 void EnterLostRows(const TableBlock& block, RowsLost how, Ledger& ledger) {
-  ledger.Enter(block, {});
+  ledger.Enter(block);
   switch (how) {
     case RowsLost::ToFurtherTitle:
       ledger.NoteBlock("title-without-empty-line");

@@ -11,7 +11,8 @@ namespace s2k2ngt {
 // What the driver enters into the ledger of a run that keeps account.
 
 /// Enters a block, and why its rows are not looked at if no table of the model takes them.
-void EnterBlock(const TableBlock& block, const TableOutcome& outcome, Ledger& ledger);
+void EnterBlock(const TableBlock& block, const TableOutcome& outcome, CModel& model,
+                Ledger& ledger);
 
 /// Notes the row of the block entered last that refuses the file.
 void EnterRefusal(const TableBlock& block, const Refusal& refusal, Ledger& ledger);

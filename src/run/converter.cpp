@@ -129,7 +129,7 @@ bool CConverter::Impl::DispatchRows(const TableBlock& block) {
   const TableOutcome outcome = OutcomeOf(block.TableId);
   const RowParser parse = FindRowParser(outcome.Record);
   if (m_Ledger.IsKept()) {
-    EnterBlock(block, outcome, m_Ledger);
+    EnterBlock(block, outcome, m_Model, m_Ledger);
   }
   if (outcome.Fate == TableFate::Refused) {
     m_Messages.Show(*outcome.Message);

@@ -52,6 +52,19 @@ struct Entry {
 };
 
 template <class Record>
+std::string LabelOf(CModel& model, std::uint32_t key) {
+  const Record* const row = model.Rows<Record>().Find(key);
+  if (row != nullptr) {
+    for (const RowKey<Record>& known : kRowKeys<Record>) {
+      if (known.IsText()) {
+        return std::string(TrimLeft(known.Name())).append(known.TextOf(*row));
+      }
+    }
+  }
+  return {};
+}
+
+template <class Record>
 constexpr TableUse UseOf() {
   TableUse use{.Keys = kKeyUses<Record>, .Lost = std::nullopt};
   if constexpr (requires { Record::kLostMessage; }) {
@@ -61,17 +74,25 @@ constexpr TableUse UseOf() {
   return use;
 }
 
+/// The same of a table of many records.
+template <class Record>
+constexpr TableUse UseOfRows() {
+  TableUse use = UseOf<Record>();
+  use.Label = LabelOf<Record>;
+  return use;
+}
+
 /// The table of a record whose rows are none of them refused.
 template <class Record>
 constexpr Entry Rows() {
-  return {Record::kTable, StoreRows<Record>, UseOf<Record>()};
+  return {Record::kTable, StoreRows<Record>, UseOfRows<Record>()};
 }
 
 constexpr std::array kRowParsers = std::to_array<Entry>({
     {kActiveDegreesOfFreedom, StoreActiveDegreesOfFreedom, UseOf<ActiveDegreesOfFreedom>()},
     {kCoordinateSystem, StoreCoordinateSystem, UseOf<CoordinateSystem>()},
     {kUnits, StoreUnits, UseOf<ProgramControl>()},
-    {T_JTCD_D::kTable, StoreJoints, UseOf<T_JTCD_D>()},
+    {T_JTCD_D::kTable, StoreJoints, UseOfRows<T_JTCD_D>()},
     Rows<T_JTRA_D>(),
     Rows<T_JTUC_D>(),
     Rows<T_JTSC_D>(),

@@ -3,8 +3,10 @@
 #include "common/messages.h"
 #include "source/model.h"
 
+#include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 
 namespace s2k2ngt {
 
@@ -20,6 +22,9 @@ struct TableUse {
   std::optional<MessageKey> Lost;
   /// True for a table that is looked at and not converted.
   bool IsChecked = false;
+  /// Gives the label by which people know a row that the model holds: the first text of its keys,
+  /// as "Joint=12". Null for a table of a single record.
+  std::string (*Label)(CModel& model, std::uint32_t key) = nullptr;
 };
 
 /// The use of a stored table of the catalogue, as its record declares it; nothing for a table that

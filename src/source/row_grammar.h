@@ -87,6 +87,10 @@ class RowKey {
 
   constexpr Text Name() const { return m_Name; }
   constexpr bool IsRead() const { return m_Kind != Kind::Unread; }
+  constexpr bool IsText() const { return m_Kind == Kind::Word; }
+
+  /// What a record has of a key that is a text.
+  Text TextOf(const Record& record) const { return record.*m_Text; }
 
   /// Puts the value that a row states for the key into its field.
   void Store(Text value, TextStore& store, Record& record) const {
