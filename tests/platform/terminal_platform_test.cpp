@@ -14,8 +14,19 @@ auto CurrentHandler() {
   return handler;
 }
 
-TEST(TerminalPlatform, InterruptIsAWishToStopWhileProgressIsShown) {
-  ForgetInterrupt();
+void HandleAsAHostDoes(int /*signal*/) {}
+
+/// The handler of a host is there, whatever the tests were started with.
+class TerminalPlatformTest : public testing::Test {
+ protected:
+  TerminalPlatformTest() : m_Before(std::signal(SIGINT, HandleAsAHostDoes)) { ForgetInterrupt(); }
+  ~TerminalPlatformTest() override { std::signal(SIGINT, m_Before); }
+
+ private:
+  void (*m_Before)(int);
+};
+
+TEST_F(TerminalPlatformTest, InterruptIsAWishToStopWhileProgressIsShown) {
   TerminalPlatform platform;
   platform.OpenProgress();
   EXPECT_FALSE(platform.AskStop());
@@ -24,18 +35,25 @@ TEST(TerminalPlatform, InterruptIsAWishToStopWhileProgressIsShown) {
   platform.CloseProgress();
 }
 
-TEST(TerminalPlatform, HandlerOfTheHostIsBackWhenTheProgressIsClosed) {
+TEST_F(TerminalPlatformTest, HandlerOfTheHostIsBackWhenTheProgressIsClosed) {
+  TerminalPlatform platform;
+  platform.OpenProgress();
+  EXPECT_NE(CurrentHandler(), HandleAsAHostDoes);
+  platform.CloseProgress();
+  EXPECT_EQ(CurrentHandler(), HandleAsAHostDoes);
+}
+
+TEST_F(TerminalPlatformTest, InterruptsThatAreIgnoredStaySo) {
   std::signal(SIGINT, SIG_IGN);
   TerminalPlatform platform;
   platform.OpenProgress();
-  EXPECT_NE(CurrentHandler(), SIG_IGN);
-  platform.CloseProgress();
   EXPECT_EQ(CurrentHandler(), SIG_IGN);
-  std::signal(SIGINT, SIG_DFL);
+  std::raise(SIGINT);
+  EXPECT_FALSE(platform.AskStop());
+  platform.CloseProgress();
 }
 
-TEST(TerminalPlatform, SecondInterruptIsNotCaught) {
-  ForgetInterrupt();
+TEST_F(TerminalPlatformTest, SecondInterruptIsNotCaught) {
   TerminalPlatform platform;
   platform.OpenProgress();
   std::raise(SIGINT);

@@ -1,6 +1,7 @@
 #include "support/command_run.h"
 
 #include <array>
+#include <csignal>
 #include <stdexcept>
 
 #include <fcntl.h>
@@ -25,6 +26,10 @@ struct Pipe {
 };
 
 [[noreturn]] void BecomeCommand(const CommandCall& call, int in, int out, int err) {
+  // The tests may run in the background, where some signals are ignored, and the command with them.
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGTERM}) {
+    std::signal(signal, SIG_DFL);
+  }
   dup2(in, STDIN_FILENO);
   dup2(out, STDOUT_FILENO);
   dup2(err, STDERR_FILENO);
