@@ -17,8 +17,8 @@ namespace {
 /// In the order of RowFate.
 constexpr std::array<const char*, s2k2ngt::kRowFates> kFates = {"converted", "changed", "dropped",
                                                                 "refused", "not_looked_at"};
-/// In the order of ElementKind.
-constexpr std::array<const char*, 4> kKinds = {"frame", "area", "solid", "link"};
+/// In the order of ElementKind, as far as elements have numbers.
+constexpr std::array<const char*, 3> kKinds = {"frame", "area", "solid"};
 
 ordered_json TextOrNull(const std::optional<std::string>& text) {
   return text ? ordered_json(*text) : ordered_json(nullptr);
@@ -89,10 +89,10 @@ ordered_json NumbersOf(const Drawing& drawing) {
   if (drawing.ElementsAreRenumbered) {
     ordered_json elements = ordered_json::array();
     for (const s2k2ngt::DrawnElement& element : drawing.Elements) {
-      if (element.Kind != s2k2ngt::ElementKind::Link) {
-        elements.push_back({{"kind", kKinds[static_cast<std::size_t>(element.Kind)]},
-                            {"label", element.Label},
-                            {"number", element.Number}});
+      const auto kind = static_cast<std::size_t>(element.Kind);
+      if (kind < kKinds.size()) {
+        elements.push_back(
+            {{"kind", kKinds.at(kind)}, {"label", element.Label}, {"number", element.Number}});
       }
     }
     numbers["elements"] = elements;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <s2k2ngt/account.h>
+#include <s2k2ngt/drawing.h>
 #include <s2k2ngt/exceptions.h>
 #include <s2k2ngt/export.h>
 #include <s2k2ngt/platform.h>
@@ -96,6 +97,10 @@ class S2K2NGT_API CConverter {
   /// after a stop, a failure or an exception: the rows that are not converted by then are told as
   /// not looked at.
   Account AccountOfRows() const;
+
+  /// The converted model of the last run, as far as it can be drawn. Empty unless the run converted
+  /// it to the end: its numbers stand when the output does.
+  Drawing DrawingOfModel() const;
 
   /// The path of the output of an input file: all up to the last dot, then ".ngt". The dot is
   /// looked for in the whole path, its directories included, as hosts do when they compute it.

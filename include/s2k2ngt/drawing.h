@@ -17,12 +17,18 @@ struct DrawnNode {
   bool IsSupported = false;  ///< by a restraint or a spring
 };
 
-enum class ElementKind : std::uint8_t { Frame, Area, Solid, Link };
+enum class ElementKind : std::uint8_t {
+  Frame,
+  Area,
+  Solid,
+  Link,
+  RigidLink,  ///< of a constraint: from its master to each of its other joints
+};
 
 struct DrawnElement {
   ElementKind Kind = ElementKind::Frame;
-  int Number = 0;     ///< in the output
-  std::string Label;  ///< in the source
+  int Number = 0;     ///< in the output; 0 of links, which have none
+  std::string Label;  ///< in the source; empty for a rigid link
   /// Its nodes as positions in Drawing::Nodes, in the order of the output: 2 of a frame, 3 or 4 of
   /// an area, 6 or 8 of a solid, 2 of a link. An element with a node that is not there is left out.
   std::vector<std::uint32_t> Nodes;
@@ -30,7 +36,7 @@ struct DrawnElement {
 
 struct Drawing {
   std::vector<DrawnNode> Nodes;
-  /// Frames, areas, solids and links, each in the order of the output.
+  /// Frames, areas, solids, links and rigid links, each in the order of the output.
   std::vector<DrawnElement> Elements;
   /// True when labels are not all numbers, so that the output has other numbers.
   bool NodesAreRenumbered = false;

@@ -42,7 +42,7 @@ void TakeLinearDirection(const T_LPLN_D& row, T_NGT_ELNK_D& link) {
   }
 }
 
-/// Sets the joints and, where the link has axes of its own, the angle; false in a model without
+/// Sets the label, the joints and, where the link has axes of its own, the angle; false in a model without
 /// connectivity of links. Meant so: a link that is not there has the joints of the last link of the
 /// walk.
 template <class Link>
@@ -51,6 +51,7 @@ bool SetEnds(CModel& model, const T_SMLA_D& summary, Link& link) {
   if (!joints) {
     return false;
   }
+  link.Label = summary.Link;
   link.iNODE1 = joints->Value.JointI;
   link.iNODE2 = joints->Value.JointJ;
   if (summary.LocalAxes) {

@@ -291,6 +291,7 @@ inline constexpr NoRowKeys<T_LLDG_D> kRowKeys<T_LLDG_D>{};
 /// An elastic link of the general kind, the only one that is written.
 struct T_NGT_ELNK_D {
   static constexpr std::uint32_t kBuckets = 17;
+  Text Label;   // of the source, for drawings; the output has no name for a link
   Text iNODE1;  // joint labels, turned into numbers when written
   Text iNODE2;
   double ANGLE = 0.0;  // degrees
@@ -308,6 +309,7 @@ struct T_NGT_ELNK_D {
 /// A nonlinear link.
 struct T_NGT_NLNK_D {
   static constexpr std::uint32_t kBuckets = 17;
+  Text Label;  // as that of an elastic link
   Text PROP;
   Text iNODE1;  // joint labels, turned into numbers when written
   Text iNODE2;

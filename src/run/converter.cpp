@@ -1,5 +1,6 @@
 #include "account/ledger.h"
 #include "run/accounts.h"
+#include "run/drawing.h"
 #include "run/message_boxes.h"
 #include "run/prgs_dlg.h"
 #include "run/row_parsers.h"
@@ -36,6 +37,7 @@ class CConverter::Impl : private TableSink {
   const Diagnostic& Failure() const { return m_Failure; }
   std::uint64_t RowCount() const { return m_Model.RowCount(); }
   Account AccountOfRows() const { return m_Ledger.MakeAccount(m_IsWhole); }
+  Drawing DrawingOfModel() const { return m_IsWhole ? DrawingOf(m_Conversion) : Drawing(); }
 
  private:
   static constexpr std::string_view kNoMemory = "there is not enough memory for this model";
@@ -229,6 +231,10 @@ std::uint64_t CConverter::RowCount() const { return m_Impl == nullptr ? 0 : m_Im
 
 Account CConverter::AccountOfRows() const {
   return m_Impl == nullptr ? Account() : m_Impl->AccountOfRows();
+}
+
+Drawing CConverter::DrawingOfModel() const {
+  return m_Impl == nullptr ? Drawing() : m_Impl->DrawingOfModel();
 }
 
 std::string CConverter::OutputPath(const std::string& inputPath) {

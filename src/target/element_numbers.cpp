@@ -4,12 +4,15 @@
 
 namespace s2k2ngt {
 
+std::int32_t ElementNumbers::NumberOf(std::uint32_t position, Text label) const {
+  return Renumbered() ? static_cast<std::int32_t>(position) : ParseInteger(label);
+}
+
 std::int32_t ElementNumbers::NumberAt(std::uint32_t position, Text label, Text family) {
-  if (!Renumbered()) {
-    return ParseInteger(label);
+  const std::int32_t iEl = NumberOf(position, label);
+  if (Renumbered()) {
+    m_ElemMap.Insert(position, {position, iEl, {label, family}});
   }
-  const auto iEl = static_cast<std::int32_t>(position);
-  m_ElemMap.Insert(position, {position, iEl, {label, family}});
   return iEl;
 }
 

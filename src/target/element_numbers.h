@@ -35,8 +35,10 @@ class ElementNumbers {
   /// Makes room for so many renumbered elements.
   void Reserve(std::size_t count) { m_ElemMap.Reserve(count); }
 
-  /// The number of the element that is written at this position, from 1, among all elements; with
-  /// a renumbered model it is noted for the references to come.
+  /// The number of the element that is written at this position, from 1, among all elements.
+  std::int32_t NumberOf(std::uint32_t position, Text label) const;
+
+  /// The same; with a renumbered model it is noted for the references to come.
   std::int32_t NumberAt(std::uint32_t position, Text label, Text family);
 
   /// Renumbered number of an element. Found: `iEl` is set; not found: it is left and the result is
