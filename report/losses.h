@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+/// A section of a file's part of the page.
+struct Section {
+  std::string Id;
+  std::string Title;
+  std::string Html;
+};
+
+/// What became of the rows that did not go over as they stand, by kind: one section for each fate
+/// that has losses, the worst first, and one for what is no loss. `file` is the number of the file
+/// in the report.
+std::vector<Section> LossSectionsOf(const nlohmann::ordered_json& report, std::size_t file);
