@@ -14,4 +14,5 @@ int main(int count, char** arguments) {
   const std::filesystem::path folder = arguments[1];
   std::ofstream(folder / "source_tables.md") << s2k2ngt::reference::SourceTablesPage();
   std::ofstream(folder / "messages.md") << s2k2ngt::reference::MessagesPage();
+  std::ofstream(folder / "reasons.md") << s2k2ngt::reference::ReasonsPage();
 }

@@ -6,6 +6,8 @@
 #include "source/table_catalogue.h"
 #include "texts.h"
 
+#include <s2k2ngt/account.h>
+
 #include <algorithm>
 #include <set>
 
@@ -135,6 +137,43 @@ stands outside the catalogue: "Cannot open input file!".
             ".\n\n> " + std::string(TextOf(message.Key)) + "\n\n";
   }
   page.pop_back();
+  return page;
+}
+
+namespace {
+
+Text WordOf(RowFate fate) {
+  switch (fate) {
+    case RowFate::Converted:
+      return "converted";
+    case RowFate::Changed:
+      return "changed";
+    case RowFate::Dropped:
+      return "dropped";
+    case RowFate::Refused:
+      return "refused";
+    case RowFate::NotLookedAt:
+      return "not looked at";
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string ReasonsPage() {
+  std::string page = R"(# Reasons why rows do not go over as they stand
+
+What a report gives as `reason`, in the order of the source's topics; [report.md](report.md) tells
+what a report is. A code stays what it is, texts may be worded better. What is no loss leaves every
+part of the model as it was.
+
+| Code | The row is | Loss | What became of it | What to do |
+|---|---|---|---|---|
+)";
+  for (const Reason& reason : Reasons()) {
+    page += "| " + Code(reason.Code) + " | " + std::string(WordOf(reason.Fate)) + " | " +
+            (reason.IsLoss ? "yes" : "no") + " | " + reason.Text + " | " + reason.Advice + " |\n";
+  }
   return page;
 }
 

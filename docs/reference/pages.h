@@ -13,4 +13,7 @@ std::string SourceTablesPage();
 /// docs/messages.md: all messages and when each is shown.
 std::string MessagesPage();
 
+/// docs/reasons.md: why rows do not go over as they stand.
+std::string ReasonsPage();
+
 }  // namespace s2k2ngt::reference

@@ -5,6 +5,8 @@
 #include "source/table_catalogue.h"
 #include "support/temporary_folder.h"
 
+#include <s2k2ngt/account.h>
+
 #include <filesystem>
 #include <string>
 
@@ -28,6 +30,25 @@ TEST(Pages, OfSourceTablesIsWhatTheDeclarationsGive) {
 
 TEST(Pages, OfMessagesIsWhatTheDeclarationsGive) {
   EXPECT_EQ(PageInDocs("messages.md"), MessagesPage()) << kHowToWrite;
+}
+
+TEST(Pages, OfReasonsIsWhatTheDeclarationsGive) {
+  EXPECT_EQ(PageInDocs("reasons.md"), ReasonsPage()) << kHowToWrite;
+}
+
+TEST(ReasonsPage, TellsAReasonInARow) {
+  EXPECT_THAT(
+      ReasonsPage(),
+      HasSubstr("| `table-without-model-data` | not looked at | no | The table holds no part "
+                "of the structural model: settings, groups, grids, or design. | There is "
+                "nothing to do for the analysis. |\n"));
+}
+
+TEST(ReasonsPage, HasNoTextThatWouldBreakItsTable) {
+  for (const Reason& reason : Reasons()) {
+    EXPECT_EQ(std::string(reason.Text).find('|'), std::string::npos) << reason.Code;
+    EXPECT_EQ(std::string(reason.Advice).find('|'), std::string::npos) << reason.Code;
+  }
 }
 
 TEST(SourceTablesPage, HasARowForEachTableOfTheCatalogue) {
