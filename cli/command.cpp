@@ -3,6 +3,7 @@
 #include "conversion_of_file.h"
 #include "inputs.h"
 #include "platform/terminal/interrupt.h"
+#include "reports.h"
 #include "summary.h"
 #include "workers.h"
 
@@ -11,17 +12,18 @@
 #include <csignal>
 #include <cstddef>
 #include <iostream>
+#include <utility>
 #include <vector>
 
 namespace {
 
-std::vector<int> ConvertOneByOne(const std::vector<FileToConvert>& files,
-                                 const CommandOptions& options) {
-  std::vector<int> results;
+std::vector<FileResult> ConvertOneByOne(const std::vector<FileToConvert>& files,
+                                        const CommandOptions& options) {
+  std::vector<FileResult> results;
   for (const FileToConvert& file : files) {
-    const Outcome outcome = Convert(file, options, std::cerr);
-    Tell(file, outcome, options, {.Out = std::cout, .Err = std::cerr});
-    results.push_back(outcome.Result);
+    Outcome outcome = Convert(file, options, std::cerr);
+    Tell(outcome, options, {.Out = std::cout, .Err = std::cerr});
+    results.push_back(ResultOf(std::move(outcome)));
   }
   return results;
 }
@@ -35,20 +37,24 @@ int ConvertFiles(const CommandOptions& options) {
   const s2k2ngt::InterruptGuard hangUp(SIGHUP);
 #endif
   const std::vector<FileToConvert> files = ListFiles(options);
+  if (const auto reason = WhyNoReport(files, options)) {
+    PrintLine(std::cerr, *reason);
+    return kWrongUsage;
+  }
   for (const FileToConvert& file : files) {
     // A call that was killed could not say so.
-    if (!file.Refusal && !file.IsRepeated && IsUnfinished(file.Output)) {
+    if (!options.Check && !file.Refusal && !file.IsRepeated && IsUnfinished(file.Output)) {
       PrintLine(std::cerr,
                 file.Output + ": found unfinished, as a call leaves it that is stopped or killed");
     }
   }
-  const std::vector<int> results =
+  const std::vector<FileResult> results =
       options.Jobs > 0 ? ConvertInWorkers(files, options) : ConvertOneByOne(files, options);
-  const int status = StatusOf(results);
+  const int status = StatusOf(results, options);
   if (files.size() > 1 && (!options.Quiet || status == kOneFailed)) {
-    PrintSummary(std::cerr, files, results);
+    PrintSummary(std::cerr, files, results, options);
   }
-  return status;
+  return WriteReports(results, options) ? status : kOneFailed;
 }
 
 void ListMessages() {

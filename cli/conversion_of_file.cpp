@@ -1,6 +1,8 @@
 #include "conversion_of_file.h"
 
+#include "account_lines.h"
 #include "common/files.h"
+#include "drawings.h"
 #include "platform/terminal/terminal_platform.h"
 
 #include <array>
@@ -11,13 +13,11 @@
 #include <system_error>
 #include <utility>
 
-#include <nlohmann/json.hpp>
-
 using s2k2ngt::CConverter;
 
 namespace {
 
-/// The terminal, which also keeps what it shows for those who ask for JSON.
+/// The terminal, which also keeps what it shows for those who ask for JSON or a report.
 class CommandPlatform : public s2k2ngt::TerminalPlatform {
  public:
   CommandPlatform(const CommandOptions& options, std::string file, std::ostream& err,
@@ -25,7 +25,7 @@ class CommandPlatform : public s2k2ngt::TerminalPlatform {
       : TerminalPlatform({.Messages = !options.Quiet,
                           .Progress = !options.Quiet && !options.NoProgress,
                           .Stream = &err}),
-        m_KeepsMessages(options.Json),
+        m_KeepsMessages(options.Json || !options.Reports.empty()),
         m_File(std::move(file)),
         m_Shown(shown) {}
 
@@ -62,52 +62,92 @@ bool IsUtf16(const std::string& path) {
 std::optional<std::string> WhyNotConverted(const FileToConvert& file,
                                            const CommandOptions& options) {
   if (file.Refusal) {
-    return file.Input + ": " + *file.Refusal;
+    return file.Refusal;
   }
   if (IsUtf16(file.Input)) {
-    return file.Input + ": it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
+    return "it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
   }
-  if (!options.OutputDirectory.empty()) {
+  if (!options.OutputDirectory.empty() && !options.Check) {
     std::error_code error;
     const std::filesystem::path output = s2k2ngt::NativePath(file.Output);
     std::filesystem::create_directories(output.parent_path(), error);
     if (error) {
-      return file.Input + ": cannot make the folder of " + file.Output + ": " + error.message();
+      return "cannot make the folder of " + file.Output + ": " + error.message();
     }
   }
   return std::nullopt;
 }
 
-void PrintJson(const std::string& file, const Outcome& outcome, std::ostream& out) {
-  using nlohmann::ordered_json;
-  const auto textOrNull = [](const std::optional<std::string>& text) {
-    return text ? ordered_json(*text) : ordered_json(nullptr);
-  };
-  ordered_json messages = ordered_json::array();
-  for (const Message& message : outcome.Messages) {
-    messages.push_back({{"key", message.Key}, {"text", message.Text}});
-  }
-  const ordered_json object = {{"input", file},
-                               {"output", textOrNull(outcome.Output)},
-                               {"result", outcome.Result},
-                               {"messages", messages},
-                               {"error", textOrNull(outcome.Error)}};
-  // Labels are bytes of any character set; JSON is UTF-8.
-  out << object.dump(-1, ' ', false, ordered_json::error_handler_t::replace) << std::endl;
-}
-
-void PrintOutcome(const std::string& file, const Outcome& outcome, const CommandOptions& options,
-                  std::ostream& err) {
-  if (outcome.Error) {
-    PrintLine(err, *outcome.Error);
+void PrintOutcome(const Outcome& outcome, const CommandOptions& options, std::ostream& err) {
+  const FileFacts& facts = outcome.Facts;
+  if (facts.Error) {
+    PrintLine(err, *facts.Error);
   } else if (outcome.Unfinished) {
-    PrintLine(err, file + ": stopped; " + *outcome.Unfinished + " is left unfinished");
-  } else if (outcome.Result == s2k2ngt::kStopped) {
-    PrintLine(err, file + ": stopped");
+    PrintLine(err, facts.Input + ": stopped; " + *outcome.Unfinished + " is left unfinished");
+  } else if (facts.Result == s2k2ngt::kStopped) {
+    PrintLine(err, facts.Input + ": stopped");
   } else if (!options.Quiet) {
-    PrintLine(err, file + ": converted to " + *outcome.Output +
+    const std::string whatIsDone = facts.Output ? "converted to " + *facts.Output : "checked";
+    PrintLine(err, facts.Input + ": " + whatIsDone +
                        (outcome.IsEmpty ? ", which is empty: the file has no row that is converted"
                                         : ""));
+  }
+  if (!options.Quiet) {
+    for (const std::string& line : outcome.Account) {
+      PrintLine(err, facts.Input + ": " + line);
+    }
+  }
+}
+
+/// Takes note of what the run tells of the rows.
+void TakeAccount(const CConverter& converter, const CommandOptions& options, Outcome& outcome) {
+  const s2k2ngt::Account account = converter.AccountOfRows();
+  outcome.HasLoss = account.HasLoss();
+  outcome.Account = LinesOf(account);
+  if (!options.Reports.empty()) {
+    const s2k2ngt::Drawing drawing = converter.DrawingOfModel();
+    outcome.Part.Json = TextOf(JsonOf(outcome.Facts, account, drawing));
+    outcome.Part.Drawings = DrawingsOf(drawing, account);
+  }
+}
+
+/// With its part of the reports also where there was no run to account for.
+Outcome WithPart(Outcome outcome, const CommandOptions& options) {
+  if (!options.Reports.empty() && outcome.Part.Json.empty()) {
+    outcome.Part.Json = TextOf(JsonOf(outcome.Facts, {}, {}));
+  }
+  return outcome;
+}
+
+/// Converts a file with which it may be begun.
+void Run(const FileToConvert& file, const CommandOptions& options, std::ostream& err,
+         Outcome& outcome) {
+  FileFacts& facts = outcome.Facts;
+  CommandPlatform platform(options, file.Input, err, facts.Messages);
+  CConverter converter(platform);
+  s2k2ngt::RunOptions how;
+  how.Output = file.Output;
+  how.WritesOutput = !options.Check;
+  how.KeepsAccount = options.WantsAccount();
+  try {
+    facts.Result = converter.Run(file.Input.c_str(), how);
+  } catch (const std::exception&) {
+    facts.Result = s2k2ngt::kFailed;
+  }
+  const s2k2ngt::Diagnostic& ended = converter.Failure();
+  if (facts.Result == s2k2ngt::kConverted) {
+    outcome.IsEmpty = converter.RowCount() == 0;
+    if (!options.Check) {
+      facts.Output = file.Output;
+    }
+  } else if (facts.Result == s2k2ngt::kFailed) {
+    facts.Error = ended.Reason.empty() ? file.Input + ": there is not enough memory to begin"
+                                       : ended.Describe(file.Input);
+  } else if (ended.Phase == s2k2ngt::kWriting && !options.Check) {
+    outcome.Unfinished = file.Output;
+  }
+  if (options.WantsAccount()) {
+    TakeAccount(converter, options, outcome);
   }
 }
 
@@ -115,39 +155,34 @@ void PrintOutcome(const std::string& file, const Outcome& outcome, const Command
 
 Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::ostream& err) {
   Outcome outcome;
+  outcome.Facts.Input = file.Input;
   if (s2k2ngt::WasInterrupted()) {
-    outcome.Result = s2k2ngt::kStopped;
-    return outcome;
+    outcome.Facts.Result = s2k2ngt::kStopped;
+    return WithPart(std::move(outcome), options);
   }
-  outcome.Error = WhyNotConverted(file, options);
-  if (outcome.Error) {
-    return outcome;
+  if (const std::optional<std::string> reason = WhyNotConverted(file, options)) {
+    return FailureOf(file, *reason, options);
   }
-  CommandPlatform platform(options, file.Input, err, outcome.Messages);
-  CConverter converter(platform);
-  try {
-    outcome.Result = converter.Run(file.Input.c_str(), {.Output = file.Output});
-  } catch (const std::exception&) {
-    outcome.Result = s2k2ngt::kFailed;
-  }
-  const s2k2ngt::Diagnostic& ended = converter.Failure();
-  if (outcome.Result == s2k2ngt::kConverted) {
-    outcome.Output = file.Output;
-    outcome.IsEmpty = converter.RowCount() == 0;
-  } else if (outcome.Result == s2k2ngt::kFailed) {
-    outcome.Error = ended.Reason.empty() ? file.Input + ": there is not enough memory to begin"
-                                         : ended.Describe(file.Input);
-  } else if (ended.Phase == s2k2ngt::kWriting) {
-    outcome.Unfinished = file.Output;
-  }
-  return outcome;
+  Run(file, options, err, outcome);
+  return WithPart(std::move(outcome), options);
 }
 
-void Tell(const FileToConvert& file, const Outcome& outcome, const CommandOptions& options,
-          Streams streams) {
-  PrintOutcome(file.Input, outcome, options, streams.Err);
+Outcome FailureOf(const FileToConvert& file, const std::string& reason,
+                  const CommandOptions& options) {
+  Outcome outcome;
+  outcome.Facts.Input = file.Input;
+  outcome.Facts.Error = file.Input + ": " + reason;
+  return WithPart(std::move(outcome), options);
+}
+
+FileResult ResultOf(Outcome outcome) {
+  return {outcome.Facts.Result, outcome.HasLoss, std::move(outcome.Part)};
+}
+
+void Tell(const Outcome& outcome, const CommandOptions& options, Streams streams) {
+  PrintOutcome(outcome, options, streams.Err);
   if (options.Json) {
-    PrintJson(file.Input, outcome, streams.Out);
+    streams.Out << TextOf(JsonOf(outcome.Facts)) << std::endl;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include "command.h"
 #include "inputs.h"
+#include "json.h"
 
 #include <s2k2ngt/converter.h>
 
@@ -10,19 +11,27 @@
 #include <string>
 #include <vector>
 
-struct Message {
-  std::string Key;
-  std::string Text;
+/// The part of the reports of a call that a file has; empty when there are none.
+struct ReportPart {
+  std::string Json;
+  std::string Drawings;
+};
+
+/// What a file comes to for the call.
+struct FileResult {
+  int Result = s2k2ngt::kFailed;
+  bool HasLoss = false;  // by the account, if it is kept
+  ReportPart Part;
 };
 
 /// What became of a file.
 struct Outcome {
-  int Result = s2k2ngt::kFailed;
-  std::optional<std::string> Output;  // when it was written whole
-  bool IsEmpty = false;               // for want of rows
-  std::vector<Message> Messages;
-  std::optional<std::string> Error;       // of a failure
+  FileFacts Facts;
+  bool IsEmpty = false;                   // for want of rows
   std::optional<std::string> Unfinished;  // output that a stop has left on disk
+  std::vector<std::string> Account;       // lines for people
+  bool HasLoss = false;
+  ReportPart Part;
 };
 
 /// The streams of a call, or what stands for them: one line of JSON a file, and all for people.
@@ -34,9 +43,15 @@ struct Streams {
 /// Converts a file, unless it is refused or the user has stopped the call, and shows its messages.
 Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::ostream& err);
 
+/// The outcome of a file that could not be converted.
+Outcome FailureOf(const FileToConvert& file, const std::string& reason,
+                  const CommandOptions& options);
+
+/// What the call needs of an outcome that is told.
+FileResult ResultOf(Outcome outcome);
+
 /// Tells what became of a file.
-void Tell(const FileToConvert& file, const Outcome& outcome, const CommandOptions& options,
-          Streams streams);
+void Tell(const Outcome& outcome, const CommandOptions& options, Streams streams);
 
 /// Writes a line of the command's own for people.
 void PrintLine(std::ostream& err, const std::string& text);

@@ -114,7 +114,7 @@ std::vector<FileToConvert> ListFiles(const CommandOptions& options) {
   }
   FilesOfCall known(inputs);
   for (FileToConvert& file : files) {
-    if (file.Refusal) {
+    if (file.Refusal || options.Check) {
       continue;
     }
     if (options.OutputDirectory.empty() && !LiesBeside(file.Input, file.Output)) {

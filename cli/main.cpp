@@ -1,5 +1,6 @@
 #include "command.h"
 #include "console.h"
+#include "reports.h"
 
 #include <s2k2ngt/s2k2ngt.h>
 
@@ -30,6 +31,12 @@ Options:
                    write outputs into DIR, which is made if it is not there;
                    those of a folder keep their places below it
   -j, --jobs N     convert up to N files at once, each in a process of its own
+  --check          convert without writing an output, and tell what would be
+                   lost
+  --report FILE    write what became of every row into FILE: a page for people
+                   if it ends in .html, JSON for programs if in .json; may be
+                   given more than once
+  --fail-on-loss   end with status 3 if anything is lost
   --json           print what became of each file as one line of JSON
   --quiet          show no messages and no progress, only failures
   --no-progress    show no progress bar
@@ -39,7 +46,7 @@ Options:
 
 Results go to standard output, everything for people to standard error.
 Exit status: 0 all files converted, 1 a run was stopped, 2 at least one file
-failed, 64 wrong usage.
+failed, 3 something was lost and --fail-on-loss was given, 64 wrong usage.
 )";
 
 int WrongUsage(const std::string& reason) {
@@ -61,17 +68,23 @@ int Run(std::vector<std::string> words, const Console& console) {
     Recursive = 'r',
     OutputDirectory = 'o',
     Jobs = 'j',
-    Json = 1,
+    Check = 1,
+    Report,
+    FailOnLoss,
+    Json,
     Quiet,
     NoProgress,
     ListAllMessages,
     Help,
     Version
   };
-  constexpr std::array<option, 10> kOptions = {
+  constexpr std::array<option, 13> kOptions = {
       {{"recursive", no_argument, nullptr, Recursive},
        {"output-dir", required_argument, nullptr, OutputDirectory},
        {"jobs", required_argument, nullptr, Jobs},
+       {"check", no_argument, nullptr, Check},
+       {"report", required_argument, nullptr, Report},
+       {"fail-on-loss", no_argument, nullptr, FailOnLoss},
        {"json", no_argument, nullptr, Json},
        {"quiet", no_argument, nullptr, Quiet},
        {"no-progress", no_argument, nullptr, NoProgress},
@@ -109,6 +122,19 @@ int Run(std::vector<std::string> words, const Console& console) {
           break;
         }
         return WrongUsage("--jobs wants a number, not " + std::string(optarg));
+      case Check:
+        options.Check = true;
+        break;
+      case Report:
+        if (!IsReportName(optarg)) {
+          return WrongUsage("--report wants a file that ends in .html or .json, not " +
+                            std::string(optarg));
+        }
+        options.Reports.emplace_back(optarg);
+        break;
+      case FailOnLoss:
+        options.FailOnLoss = true;
+        break;
       case Json:
         options.Json = true;
         break;

@@ -1,8 +1,5 @@
 #include "summary.h"
 
-#include "command.h"
-#include "conversion_of_file.h"
-
 #include <s2k2ngt/converter.h>
 
 #include <algorithm>
@@ -11,26 +8,38 @@
 
 namespace {
 
-std::size_t Count(const std::vector<int>& results, int result) {
-  return static_cast<std::size_t>(std::count(results.begin(), results.end(), result));
+std::size_t Count(const std::vector<FileResult>& results, int result) {
+  return static_cast<std::size_t>(std::ranges::count(results, result, &FileResult::Result));
+}
+
+std::size_t CountLosses(const std::vector<FileResult>& results) {
+  return static_cast<std::size_t>(std::ranges::count_if(results, [](const FileResult& result) {
+    return result.Result == s2k2ngt::kConverted && result.HasLoss;
+  }));
 }
 
 }  // namespace
 
-int StatusOf(const std::vector<int>& results) {
+int StatusOf(const std::vector<FileResult>& results, const CommandOptions& options) {
   if (Count(results, s2k2ngt::kFailed) > 0) {
     return kOneFailed;
   }
-  return Count(results, s2k2ngt::kStopped) > 0 ? kOneStopped : kAllConverted;
+  if (Count(results, s2k2ngt::kStopped) > 0) {
+    return kOneStopped;
+  }
+  return options.FailOnLoss && CountLosses(results) > 0 ? kOneLost : kAllConverted;
 }
 
 void PrintSummary(std::ostream& err, const std::vector<FileToConvert>& files,
-                  const std::vector<int>& results) {
+                  const std::vector<FileResult>& results, const CommandOptions& options) {
+  const std::size_t converted = Count(results, s2k2ngt::kConverted);
   const std::size_t stopped = Count(results, s2k2ngt::kStopped);
   const std::size_t failed = Count(results, s2k2ngt::kFailed);
-  std::string text = std::to_string(files.size()) +
-                     " files: " + std::to_string(Count(results, s2k2ngt::kConverted)) +
-                     " converted";
+  std::string text = std::to_string(files.size()) + " files: " + std::to_string(converted) +
+                     (options.Check ? " checked" : " converted");
+  if (options.WantsAccount()) {
+    text += " (" + std::to_string(CountLosses(results)) + " with losses)";
+  }
   if (stopped > 0) {
     text += ", " + std::to_string(stopped) + " stopped";
   }
@@ -39,7 +48,7 @@ void PrintSummary(std::ostream& err, const std::vector<FileToConvert>& files,
   }
   PrintLine(err, text);
   for (std::size_t index = 0; index < files.size(); ++index) {
-    if (results[index] == s2k2ngt::kFailed) {
+    if (results[index].Result == s2k2ngt::kFailed) {
       PrintLine(err, "  " + files[index].Input);
     }
   }

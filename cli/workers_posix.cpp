@@ -1,6 +1,5 @@
 #include "conversion_of_file.h"
 #include "platform/terminal/interrupt.h"
-#include "summary.h"
 #include "workers.h"
 
 #include <algorithm>
@@ -14,6 +13,7 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include <fcntl.h>
@@ -32,10 +32,26 @@ constexpr int kAbandoned = SIGUSR2;
 
 /// What became of a file, with all that is to be printed of it.
 struct Report {
-  int Result = s2k2ngt::kFailed;
+  FileResult Result;
   std::string Out;
   std::string Err;
 };
+
+// A worker writes what the call needs of its file before what it prints, each piece ended by a NUL:
+// neither JSON nor drawings hold one.
+constexpr char kEndOfPiece = '\0';
+
+void WritePieces(const Outcome& outcome, std::ostream& out) {
+  out << (outcome.HasLoss ? "loss" : "") << kEndOfPiece << outcome.Part.Json << kEndOfPiece
+      << outcome.Part.Drawings << kEndOfPiece;
+}
+
+std::string TakePiece(std::string_view& text) {
+  const std::size_t end = text.find(kEndOfPiece);
+  std::string piece(text.substr(0, end));
+  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+  return piece;
+}
 
 /// What a worker writes to one of its streams.
 struct Captured {
@@ -76,7 +92,7 @@ class Workers {
   Workers(const std::vector<FileToConvert>& files, const CommandOptions& options)
       : m_Files(files), m_Options(options), m_Reports(files.size()) {}
 
-  std::vector<int> Run();
+  std::vector<FileResult> Run();
 
  private:
   bool MayBegin() const;
@@ -84,7 +100,7 @@ class Workers {
   void Await();
   void End(const Worker& worker);
   [[noreturn]] void BeWorker(const FileToConvert& file, pid_t parent, int out, int err);
-  Report ReportOf(const FileToConvert& file, const Outcome& outcome) const;
+  Report ReportOf(Outcome outcome) const;
 
   const std::vector<FileToConvert>& m_Files;
   const CommandOptions& m_Options;
@@ -94,13 +110,13 @@ class Workers {
   bool m_IsStopping = false;
 };
 
-std::vector<int> Workers::Run() {
-  std::vector<int> results;
+std::vector<FileResult> Workers::Run() {
+  std::vector<FileResult> results;
   while (results.size() < m_Files.size()) {
     if (std::optional<Report>& report = m_Reports[results.size()]) {
       std::cerr << report->Err;
       std::cout << report->Out << std::flush;
-      results.push_back(report->Result);
+      results.push_back(std::move(report->Result));
       report = Report();  // its texts are no longer of use
     } else if (!MayBegin() || !Begin()) {
       Await();
@@ -123,7 +139,7 @@ bool Workers::Begin() {
   std::optional<Report>& report = m_Reports[m_Begun];
   if (file.Refusal || s2k2ngt::WasInterrupted()) {
     std::ostringstream noMessages;
-    report = ReportOf(file, Convert(file, m_Options, noMessages));
+    report = ReportOf(Convert(file, m_Options, noMessages));
     ++m_Begun;
     return true;
   }
@@ -150,9 +166,8 @@ bool Workers::Begin() {
     if (!m_Running.empty()) {
       return false;
     }
-    Outcome outcome;
-    outcome.Error = file.Input + ": cannot begin a process: " + std::strerror(systemError);
-    report = ReportOf(file, outcome);
+    report = ReportOf(FailureOf(
+        file, "cannot begin a process: " + std::string(std::strerror(systemError)), m_Options));
   }
   ++m_Begun;
   return true;
@@ -189,9 +204,10 @@ void Workers::BeWorker(const FileToConvert& file, pid_t parent, int out, int err
       dup2(sharedErr, STDERR_FILENO);
       std::cerr.clear();
     }
-    Tell(file, outcome, m_Options, {.Out = std::cout, .Err = std::cerr});
+    WritePieces(outcome, std::cout);
+    Tell(outcome, m_Options, {.Out = std::cout, .Err = std::cerr});
     std::cout.flush();
-    std::exit(StatusOf({outcome.Result}));
+    std::exit(outcome.Facts.Result == s2k2ngt::kFailed ? kOneFailed : outcome.Facts.Result);
   } catch (const std::exception&) {
     std::abort();  // of want of memory, and so told by the process that waits
   }
@@ -233,35 +249,39 @@ void Workers::End(const Worker& worker) {
   std::optional<Report>& report = m_Reports[worker.File];
   const bool hasTold = WIFEXITED(status) && WEXITSTATUS(status) <= kOneFailed;
   if (hasTold) {
+    std::string_view out = worker.Out.Text;
     const int result = WEXITSTATUS(status);
-    report = Report{.Result = result == kOneFailed ? s2k2ngt::kFailed : result,
-                    .Out = worker.Out.Text,
-                    .Err = worker.Err.Text};
+    report.emplace();
+    report->Result.Result = result == kOneFailed ? s2k2ngt::kFailed : result;
+    report->Result.HasLoss = !TakePiece(out).empty();
+    report->Result.Part.Json = TakePiece(out);
+    report->Result.Part.Drawings = TakePiece(out);
+    report->Out = out;
+    report->Err = worker.Err.Text;
     return;
   }
   const FileToConvert& file = m_Files[worker.File];
   const std::string how = WIFSIGNALED(status) ? "signal " + std::to_string(WTERMSIG(status))
                                               : "status " + std::to_string(WEXITSTATUS(status));
-  Outcome outcome;
-  outcome.Error = file.Input + ": the conversion was ended by " + how;
-  if (IsUnfinished(file.Output)) {
-    *outcome.Error += "; " + file.Output + " is left unfinished";
+  std::string reason = "the conversion was ended by " + how;
+  if (!m_Options.Check && IsUnfinished(file.Output)) {
+    reason += "; " + file.Output + " is left unfinished";
   }
-  report = ReportOf(file, outcome);
+  report = ReportOf(FailureOf(file, reason, m_Options));
   report->Err.insert(0, worker.Err.Text);
 }
 
-Report Workers::ReportOf(const FileToConvert& file, const Outcome& outcome) const {
+Report Workers::ReportOf(Outcome outcome) const {
   std::ostringstream out;
   std::ostringstream err;
-  Tell(file, outcome, m_Options, {.Out = out, .Err = err});
-  return {.Result = outcome.Result, .Out = out.str(), .Err = err.str()};
+  Tell(outcome, m_Options, {.Out = out, .Err = err});
+  return {.Result = ResultOf(std::move(outcome)), .Out = out.str(), .Err = err.str()};
 }
 
 }  // namespace
 
-std::vector<int> ConvertInWorkers(const std::vector<FileToConvert>& files,
-                                  const CommandOptions& options) {
+std::vector<FileResult> ConvertInWorkers(const std::vector<FileToConvert>& files,
+                                         const CommandOptions& options) {
   const s2k2ngt::InterruptGuard stop(kStop);
   const s2k2ngt::InterruptGuard abandoned(kAbandoned);
   FillStandardStreams();

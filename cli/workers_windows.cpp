@@ -7,11 +7,12 @@
 #include <iostream>
 #include <sstream>
 #include <string>
+#include <utility>
 
 namespace {
 
 struct Report {
-  int Result;
+  FileResult Result;
   std::string Out;
   std::string Err;
 };
@@ -19,25 +20,25 @@ struct Report {
 Report ConvertOne(const FileToConvert& file, const CommandOptions& options) {
   std::ostringstream out;
   std::ostringstream err;
-  const Outcome outcome = Convert(file, options, err);
-  Tell(file, outcome, options, {.Out = out, .Err = err});
-  return {outcome.Result, out.str(), err.str()};
+  Outcome outcome = Convert(file, options, err);
+  Tell(outcome, options, {.Out = out, .Err = err});
+  return {ResultOf(std::move(outcome)), out.str(), err.str()};
 }
 
 }  // namespace
 
-std::vector<int> ConvertInWorkers(const std::vector<FileToConvert>& files,
-                                  const CommandOptions& options) {
+std::vector<FileResult> ConvertInWorkers(const std::vector<FileToConvert>& files,
+                                         const CommandOptions& options) {
   CommandOptions withoutBar = options;
   withoutBar.NoProgress = true;
   std::deque<std::future<Report>> running;
-  std::vector<int> results;
+  std::vector<FileResult> results;
   const auto printFirst = [&] {
-    const Report report = running.front().get();
+    Report report = running.front().get();
     running.pop_front();
     std::cerr << report.Err;
     std::cout << report.Out << std::flush;
-    results.push_back(report.Result);
+    results.push_back(std::move(report.Result));
   };
   for (const FileToConvert& file : files) {
     while (running.size() >= options.Jobs || (file.IsRepeated && !running.empty())) {

@@ -129,25 +129,30 @@ ordered_json ReasonsOf(const std::vector<ordered_json>& files) {
 
 }  // namespace
 
-ordered_json JsonOf(const FileFacts& facts, const Account& account, const Drawing& drawing) {
+ordered_json JsonOf(const FileFacts& facts) {
   ordered_json messages = ordered_json::array();
   for (const Message& message : facts.Messages) {
     messages.push_back({{"key", message.Key}, {"text", message.Text}});
   }
+  return {{"input", facts.Input},
+          {"output", TextOrNull(facts.Output)},
+          {"result", facts.Result},
+          {"messages", messages},
+          {"error", TextOrNull(facts.Error)}};
+}
+
+ordered_json JsonOf(const FileFacts& facts, const Account& account, const Drawing& drawing) {
   ordered_json tables = ordered_json::array();
   for (const s2k2ngt::TableAccount& table : account.Tables) {
     tables.push_back(JsonOf(table));
   }
-  return {{"input", facts.Input},
-          {"output", TextOrNull(facts.Output)},
-          {"result", facts.Result},
-          {"error", TextOrNull(facts.Error)},
-          {"verdict", VerdictOf(facts, account)},
-          {"messages", messages},
-          {"rows", RowsOf(account)},
-          {"tables", tables},
-          {"losses", LossesOf(account)},
-          {"numbers", NumbersOf(drawing)}};
+  ordered_json file = JsonOf(facts);
+  file["verdict"] = VerdictOf(facts, account);
+  file["rows"] = RowsOf(account);
+  file["tables"] = tables;
+  file["losses"] = LossesOf(account);
+  file["numbers"] = NumbersOf(drawing);
+  return file;
 }
 
 ordered_json ReportOf(const std::vector<ordered_json>& files) {

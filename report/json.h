@@ -21,10 +21,13 @@ struct Message {
 struct FileFacts {
   std::string Input;
   std::optional<std::string> Output;  // when it was written whole
-  int Result;
+  int Result = -1;                    // as the library gives it
   std::vector<Message> Messages;
   std::optional<std::string> Error;
 };
+
+/// The file as a whole.
+nlohmann::ordered_json JsonOf(const FileFacts& facts);
 
 /// The account of one file.
 nlohmann::ordered_json JsonOf(const FileFacts& facts, const s2k2ngt::Account& account,

@@ -1,5 +1,6 @@
 """The manual page and the completions have the options of --help."""
 
+import os
 import re
 import tempfile
 import unittest
@@ -78,6 +79,18 @@ class Help(unittest.TestCase):
             self.assertEqual(self.complete_in_bash("--quiet", "br", folder=folder), ["bridge.s2k"])
             self.assertEqual(self.complete_in_bash("--", "-", folder=folder), ["-tower.s2k"])
 
+    def test_bash_offers_what_an_option_wants(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for name in ["lost.html", "lost.json", "bridge.s2k", "notes.txt"]:
+                (open(f"{folder}/{name}", "w", encoding="utf-8")).close()
+            os.mkdir(f"{folder}/converted")
+            self.assertEqual(self.complete_in_bash("--report", "", folder=folder),
+                             ["lost.html", "lost.json"])
+            self.assertEqual(self.complete_in_bash("-o", "", folder=folder), ["converted"])
+            self.assertEqual(self.complete_in_bash("--output-dir", "", folder=folder),
+                             ["converted"])
+            self.assertEqual(self.complete_in_bash("-j", "", folder=folder), [])
+
     def test_bash_completes_the_command(self):
         registered = run("bash", "--norc", "-euc", f'source "{BASH}"; complete -p s2k2ngt')
         self.assertIn("-F _s2k2ngt", registered)
@@ -95,5 +108,5 @@ class Help(unittest.TestCase):
         run("zsh", "-n", ZSH)
         # What it hands to the function of zsh that completes by such descriptions.
         described = run("zsh", "-fec", f'_arguments() {{ print -rl -- "$@" }}; source {ZSH}')
-        heads = [re.match(r"(?:\(.*?\))?(-[\w-]*)", line) for line in described.splitlines()]
+        heads = [re.match(r"(?:\(.*?\)|\*)?(-[\w-]*)", line) for line in described.splitlines()]
         self.assertEqual(sorted(head.group(1) for head in heads if head), names(self.options))

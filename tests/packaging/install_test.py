@@ -10,6 +10,22 @@ from support import (BUILD, EXAMPLE, HEADERS, HOST_PROGRAMS, LIBDIR, MAJOR, ROOT
 
 GUIDE = (ROOT / "docs" / "host_programming.md").read_text(encoding="utf-8")
 
+LOSSY = """\
+File lossy.s2k was saved on 5/12/03 at 9:30:00
+
+TABLE:  "JOINT COORDINATES"
+   Joint=1   CoordSys=GLOBAL   CoordType=Cartesian   XorR=0   Y=0   Z=0
+   Joint=2   CoordSys=GLOBAL   CoordType=Cartesian   XorR=5   Y=0   Z=0
+
+TABLE:  "AREA AUTO MESH ASSIGNMENTS"
+   Area=1   MeshType="No Mesh"
+
+TABLE:  "JOINT COORDINATES"
+   Joint=3   CoordSys=GLOBAL   CoordType=Cartesian   XorR=9   Y=0   Z=0
+
+END TABLE DATA
+"""
+
 PROJECT_IN_C = f"""
 cmake_minimum_required(VERSION 3.16)
 project(in_c LANGUAGES C)
@@ -96,6 +112,24 @@ class Installation(PackagingTest):
         run("cmake", "--build", folder / "build")
         for program in ("convert_c", "convert_cpp"):
             self.check_host(folder / "build" / program)
+        self.check_accounts(folder / "build")
+
+    def check_accounts(self, folder):
+        """The programs of the guide that tell what is lost, over a model of which rows are."""
+        (folder / "lossy.s2k").write_text(LOSSY)
+        done = attempt(folder / "account_c", "lossy.s2k", cwd=folder)
+        self.assertEqual((done.returncode, done.stderr), (3, ""))
+        self.assertEqual(done.stdout, (
+            "JOINT COORDINATES: 1 of 2 rows are converted as they stand\n"
+            "  line 4, Joint=1: A later block of the same table has written over the row.\n"
+            "AREA AUTO MESH ASSIGNMENTS: 0 of 1 rows are converted as they stand\n"
+            "  1 rows: The host has no like of this table.\n"
+            "JOINT COORDINATES: 1 of 1 rows are converted as they stand\n"))
+        self.assertFalse((folder / "lossy.ngt").exists())
+        done = attempt(folder / "account_cpp", "lossy.s2k", cwd=folder)
+        self.assertEqual((done.returncode, done.stdout, done.stderr),
+                         (3, "1 overwritten-by-later-block\n1 table-refused\n", ""))
+        self.assertTrue((folder / "lossy.ngt").exists())
 
     def test_project_of_c_alone_finds_the_right_version(self):
         folder = self.folder / "project_in_c"

@@ -17,8 +17,8 @@ COMMAND = BUILD / "s2k2ngt"
 # What no text of a message is if the catalogue was found.
 NO_CATALOGUE = "DLL is not loaded"
 EXAMPLE = "portal_frame"
-HEADERS = ["converter.h", "entry_points.h", "exceptions.h", "export.h", "platform.h", "s2k2ngt.h",
-           "version.h"]
+HEADERS = ["account.h", "converter.h", "drawing.h", "entry_points.h", "exceptions.h", "export.h",
+           "platform.h", "s2k2ngt.h", "version.h"]
 
 
 def attempt(*words, **options):

@@ -1,4 +1,10 @@
 # Completes the command line of s2k2ngt in fish.
+complete -c s2k2ngt -s r -l recursive -d 'Take all source files of folders'
+complete -c s2k2ngt -s o -l output-dir -x -a '(__fish_complete_directories)' -d 'Write outputs into a folder'
+complete -c s2k2ngt -s j -l jobs -x -d 'Convert several files at once'
+complete -c s2k2ngt -l check -d 'Convert without writing an output, and tell what would be lost'
+complete -c s2k2ngt -l report -r -F -d 'Write what became of every row'
+complete -c s2k2ngt -l fail-on-loss -d 'End with status 3 if anything is lost'
 complete -c s2k2ngt -l json -d 'Print what became of each file as one line of JSON'
 complete -c s2k2ngt -l quiet -d 'Show no messages and no progress, only failures'
 complete -c s2k2ngt -l no-progress -d 'Show no progress bar'

@@ -1,0 +1,205 @@
+#include "command_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+/// A table that the host has no like for, and one whose second block writes over its first.
+const std::string kLosses = FileWith(
+    "TABLE:  \"JOINT COORDINATES\"\n   Joint=1\n   Joint=2\n\n"
+    "TABLE:  \"AREA AUTO MESH ASSIGNMENTS\"\n   Area=1\n\n"
+    "TABLE:  \"JOINT COORDINATES\"\n   Joint=3\n");
+
+class ReportsTest : public CommandTest {
+ protected:
+  json Report(const std::string& name) { return json::parse(ReadFile(m_Folder.FileName(name))); }
+  std::string Text(const std::string& name) { return ReadFile(m_Folder.FileName(name)); }
+};
+
+TEST_F(ReportsTest, AReportInJsonTellsWhatBecameOfEveryRow) {
+  Write("lossy.s2k", kLosses);
+  EXPECT_EQ(Call({"--report", "lost.json", "lossy.s2k"}).Status, 0);
+  const json report = Report("lost.json");
+  EXPECT_EQ(report["schema"], "s2k2ngt-report");
+  EXPECT_EQ(report["version"], 1);
+  ASSERT_EQ(report["files"].size(), 1U);
+  const json& file = report["files"][0];
+  EXPECT_EQ(file["input"], "lossy.s2k");
+  EXPECT_EQ(file["output"], "lossy.ngt");
+  EXPECT_EQ(file["result"], 0);
+  EXPECT_EQ(file["error"], nullptr);
+  EXPECT_EQ(file["verdict"], "losses");
+  EXPECT_EQ(file["rows"], json({{"read", 4},
+                                {"converted", 2},
+                                {"changed", 0},
+                                {"dropped", 1},
+                                {"refused", 1},
+                                {"not_looked_at", 0}}));
+  ASSERT_EQ(file["tables"].size(), 3U);
+  EXPECT_EQ(file["tables"][1]["title"], "AREA AUTO MESH ASSIGNMENTS");
+  EXPECT_EQ(file["tables"][1]["line"], 7);
+  EXPECT_EQ(file["tables"][1]["message"], "IDS_S2KV8_AREA_AtMesh_Not_Convert");
+  EXPECT_EQ(file["tables"][1]["reasons"], json({{{"code", "table-refused"}, {"rows", 1}}}));
+  EXPECT_EQ(file["losses"], json({{{"table", 0},
+                                   {"position", 1},
+                                   {"line", 4},
+                                   {"label", "Joint=1"},
+                                   {"reason", "overwritten-by-later-block"}}}));
+  EXPECT_EQ(file["numbers"], json({{"joints", nullptr}, {"elements", nullptr}}));
+  EXPECT_EQ(file["messages"].size(), 2U);
+  ASSERT_EQ(report["reasons"].size(), 2U);
+  EXPECT_EQ(report["reasons"][0]["code"], "table-refused");
+  EXPECT_EQ(report["reasons"][0]["fate"], "refused");
+  EXPECT_EQ(report["reasons"][0]["loss"], true);
+}
+
+TEST_F(ReportsTest, NumbersOfLabelsStandInTheReport) {
+  Write("named.s2k", FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=B\n   Joint=A\n"));
+  Call({"--report", "lost.json", "named.s2k"});
+  EXPECT_EQ(Report("lost.json")["files"][0]["numbers"]["joints"],
+            json({{{"label", "B"}, {"number", 1}}, {{"label", "A"}, {"number", 2}}}));
+}
+
+TEST_F(ReportsTest, APageIsWrittenWhereTheNameEndsInHtml) {
+  Write("lossy.s2k", kLosses);
+  Write("lost.html", "of an earlier call");
+  EXPECT_EQ(Call({"--report", "lost.html", "--report", "lost.json", "lossy.s2k"}).Status, 0);
+  EXPECT_THAT(Text("lost.html"), testing::StartsWith("<!DOCTYPE html>"));
+  EXPECT_TRUE(Exists("lost.json"));
+}
+
+TEST_F(ReportsTest, ReportsAreTheSameFromOneProcessAndFromSeveral) {
+  for (const std::string name : {"a.s2k", "b.s2k", "c.s2k"}) {
+    Write(name, kLosses);
+  }
+  Write("d.s2k", "JOINT\n");
+  Call({"--report", "one.json", "--report", "one.html", "a.s2k", "b.s2k", "c.s2k", "d.s2k"});
+  Call({"-j", "3", "--report", "several.json", "--report", "several.html", "a.s2k", "b.s2k",
+        "c.s2k", "d.s2k"});
+  EXPECT_EQ(Text("one.json"), Text("several.json"));
+  EXPECT_EQ(Text("one.html"), Text("several.html"));
+  EXPECT_EQ(Report("several.json")["files"].size(), 4U);
+}
+
+TEST_F(ReportsTest, AFileThatFailsStandsInTheReport) {
+  Write("whole.s2k", kOneJoint);
+  const CommandRun run = Call({"--report", "lost.json", "whole.s2k", "missing.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  const json report = Report("lost.json");
+  EXPECT_EQ(report["files"][0]["verdict"], "whole");
+  EXPECT_EQ(report["files"][1]["verdict"], "failed");
+  EXPECT_THAT(report["files"][1]["error"], HasSubstr("missing.s2k"));
+  EXPECT_THAT(report["files"][1]["tables"], IsEmpty());
+}
+
+TEST_F(ReportsTest, OutputMessagesAndJsonAreThoseOfACallWithoutAReport) {
+  Write("lossy.s2k", kLosses);
+  const CommandRun plain = Call({"--json", "lossy.s2k"});
+  const std::string output = Text("lossy.ngt");
+  const CommandRun run = Call({"--json", "--report", "lost.json", "lossy.s2k"});
+  EXPECT_EQ(run.Out, plain.Out);
+  EXPECT_EQ(Text("lossy.ngt"), output);
+}
+
+TEST_F(ReportsTest, AReportOfAnotherEndingIsWrongUsage) {
+  Write("model.s2k", kOneJoint);
+  const CommandRun run = Call({"--report", "lost.txt", "model.s2k"});
+  EXPECT_EQ(run.Status, 64);
+  EXPECT_THAT(run.Err, HasSubstr("--report wants a file that ends in .html or .json"));
+  EXPECT_FALSE(Exists("model.ngt"));
+}
+
+TEST_F(ReportsTest, AReportInAFolderThatIsNotThereIsToldBeforeAnythingIsConverted) {
+  Write("model.s2k", kOneJoint);
+  const CommandRun run = Call({"--report", "none/lost.json", "model.s2k"});
+  EXPECT_EQ(run.Status, 64);
+  EXPECT_THAT(run.Err, HasSubstr("none/lost.json: the folder of the report is not there"));
+  EXPECT_FALSE(Exists("model.ngt"));
+}
+
+TEST_F(ReportsTest, AReportReplacesNeitherInputNorOutput) {
+  Write("model.json", kOneJoint);
+  EXPECT_EQ(Call({"--report", "model.json", "model.json"}).Status, 64);
+  EXPECT_EQ(Text("model.json"), kOneJoint);
+  std::filesystem::create_symlink("model.ngt", m_Folder.Path() / "lost.json");
+  EXPECT_EQ(Call({"--report", "lost.json", "model.json"}).Status, 64);
+  EXPECT_FALSE(Exists("model.ngt"));
+}
+
+TEST_F(ReportsTest, AReportThatCannotBeWrittenFailsTheCall) {
+  Write("model.s2k", kOneJoint);
+  std::filesystem::create_directory(m_Folder.Path() / "lost.json");
+  const CommandRun run = Call({"--report", "lost.json", "model.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_THAT(run.Err, HasSubstr("lost.json: cannot write the report: Is a directory"));
+  EXPECT_TRUE(Exists("model.ngt"));
+}
+
+TEST_F(ReportsTest, ACheckTellsTheLossesAndWritesNothing) {
+  Write("lossy.s2k", kLosses);
+  const CommandRun run = Call({"--check", "lossy.s2k"});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_FALSE(Exists("lossy.ngt"));
+  EXPECT_THAT(run.Err, HasSubstr("s2k2ngt: lossy.s2k: checked\n"
+                                 "s2k2ngt: lossy.s2k: of 4 rows 2 converted, 0 changed, 1 dropped, "
+                                 "1 refused, 0 not looked at\n"));
+  EXPECT_THAT(run.Err, HasSubstr("  1 row, table-refused: "));
+  EXPECT_THAT(run.Err, HasSubstr("  1 row, overwritten-by-later-block: "));
+}
+
+TEST_F(ReportsTest, ACheckLeavesAnOutputThatIsThere) {
+  Write("model.s2k", kOneJoint);
+  Write("model.ngt", "of an earlier call");
+  const CommandRun run = Call({"--check", "--json", "model.s2k"});
+  EXPECT_EQ(Text("model.ngt"), "of an earlier call");
+  EXPECT_EQ(JsonLines(run.Out)[0]["output"], nullptr);
+  EXPECT_EQ(JsonLines(run.Out)[0]["result"], 0);
+  EXPECT_THAT(run.Err, Not(HasSubstr("unfinished")));
+}
+
+TEST_F(ReportsTest, ACheckMakesNoFolder) {
+  Write("model.s2k", kOneJoint);
+  EXPECT_EQ(Call({"--check", "-o", "outputs", "model.s2k"}).Status, 0);
+  EXPECT_FALSE(Exists("outputs"));
+}
+
+TEST_F(ReportsTest, ACheckOfAFileThatFailsFails) {
+  Write("old.s2k", "JOINT\n");
+  EXPECT_EQ(Call({"--check", "old.s2k"}).Status, 2);
+}
+
+TEST_F(ReportsTest, ALossFailsWhereItIsAskedTo) {
+  Write("lossy.s2k", kLosses);
+  Write("whole.s2k", kOneJoint);
+  EXPECT_EQ(Call({"--fail-on-loss", "lossy.s2k"}).Status, 3);
+  EXPECT_TRUE(Exists("lossy.ngt"));
+  EXPECT_EQ(Call({"--fail-on-loss", "whole.s2k"}).Status, 0);
+  EXPECT_EQ(Call({"--fail-on-loss", "-j", "2", "whole.s2k", "lossy.s2k"}).Status, 3);
+}
+
+TEST_F(ReportsTest, AFailureGoesBeforeALoss) {
+  Write("lossy.s2k", kLosses);
+  EXPECT_EQ(Call({"--fail-on-loss", "lossy.s2k", "missing.s2k"}).Status, 2);
+}
+
+TEST_F(ReportsTest, TheSummaryTellsHowManyFilesHaveLosses) {
+  Write("lossy.s2k", kLosses);
+  Write("whole.s2k", kOneJoint);
+  EXPECT_THAT(Call({"--fail-on-loss", "lossy.s2k", "whole.s2k"}).Err,
+              HasSubstr("s2k2ngt: 2 files: 2 converted (1 with losses)\n"));
+  EXPECT_THAT(Call({"--check", "lossy.s2k", "whole.s2k"}).Err,
+              HasSubstr("s2k2ngt: 2 files: 2 checked (1 with losses)\n"));
+}
+
+TEST_F(ReportsTest, AQuietCallTellsNothingOfTheRows) {
+  Write("lossy.s2k", kLosses);
+  EXPECT_EQ(Call({"--quiet", "--check", "lossy.s2k"}).Err, "");
+}
+
+}  // namespace
