@@ -1,6 +1,7 @@
 #include "loads/wind_seismic.h"
 
 #include "common/numbers.h"
+#include "loads/load_cases.h"
 #include "loads/settled_parameters.h"
 #include "target/load_frame.h"
 
@@ -15,9 +16,13 @@ namespace s2k2ngt {
 
 namespace {
 
+constexpr Text kUsersPeriod = "User";
+constexpr Text kAlongX = "X";
+constexpr std::size_t kSoilProfileSize = 2;
+
 /// "SC" becomes "Sc". Of a longer word the first two letters are taken.
 Text SoilProfile(Text soilType, TextStore& texts) {
-  if (soilType.size() < 2) {
+  if (soilType.size() < kSoilProfileSize) {
     return soilType;
   }
   const std::array profile = {soilType[0], ToLower(soilType[1])};
@@ -34,8 +39,8 @@ T_NGT_SUB7_D Convert(const T_SUB7_D& source, TextStore& texts) {
     target.SPT = SoilProfile(source.SoilType, texts);
   }
   // Ct times the height to the power 0: the height plays no part, and this is meant.
-  const double period = source.PeriodCalc == "User" ? source.UserT : source.Ct;
-  if (source.Dir == "X") {
+  const double period = source.PeriodCalc == kUsersPeriod ? source.UserT : source.Ct;
+  if (source.Dir == kAlongX) {
     target.SFY = 0.0;
     target.PX = period;
     target.NCX = source.R;
@@ -55,7 +60,7 @@ T_NGT_SNBC_D Convert(const T_SNBC_D& source, TextStore& /*texts*/) {
                       .IF = source.I,
                       .FF = source.F};
   // The user's period, whether or not the source goes by it, and this is meant.
-  if (source.Dir == "X") {
+  if (source.Dir == kAlongX) {
     target.SFY = 0.0;
     target.PAX = source.UserT;
     target.PCX = source.UserT;
@@ -96,6 +101,16 @@ T_NGT_WNBC_D Convert(const T_WNBC_D& source, TextStore& /*texts*/) {
           .GEF = source.Cg};
 }
 
+/// Notes why a load that is computed by a code is written without it.
+void NoteLoad(Conversion& run, Text load, Why why) {
+  if (!run.Accounts.IsKept()) {
+    return;
+  }
+  if (const auto found = run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(load)) {
+    run.Accounts.Note<T_LDCS_D>(found->Key, why);
+  }
+}
+
 /// True when the parameters made a difference. Each time that a load is met its parameters are
 /// appended, though the first are the ones that are written. Those behind them decide by which load
 /// a walk ends, until that is settled.
@@ -103,6 +118,7 @@ template <class Source>
 bool ConvertLoad(Conversion& run, Text load) {
   const auto row = run.Source.Rows<Source>().template FirstWith<&Source::LoadCase>(load);
   if (!row) {
+    NoteLoad(run, load, "auto-load-without-parameters");
     return false;
   }
   const auto target = Convert(row->Value, run.Target.Texts());
@@ -115,23 +131,90 @@ bool ConvertLoad(Conversion& run, Text load) {
   return true;
 }
 
+template <class Seismic>
+void NoteDirection(Conversion& run, std::uint32_t key, const Seismic& row) {
+  if (row.Dir != kAlongX && row.Dir != "Y") {
+    run.Accounts.Note<Seismic>(key, "seismic-direction-unknown");
+  }
+}
+
+/// Notes which values of parameters that are written do not go over as they stand.
+void NoteValues(Conversion& run, std::uint32_t key, const T_SUB7_D& row) {
+  Ledger& accounts = run.Accounts;
+  accounts.Note<T_SUB7_D>(key, "seismic-eccentricity");
+  if (row.PeriodCalc != kUsersPeriod) {
+    accounts.Note<T_SUB7_D>(key, "seismic-period-not-of-user");
+  }
+  if (row.Z != row.ZoneFactor) {
+    accounts.Note<T_SUB7_D>(key, "zone-factor-from-height");
+  }
+  if (row.SoilType.size() != kSoilProfileSize) {
+    accounts.Note<T_SUB7_D>(key, "soil-type-unknown");
+  }
+  NoteDirection(run, key, row);
+}
+
+void NoteValues(Conversion& run, std::uint32_t key, const T_SNBC_D& row) {
+  run.Accounts.Note<T_SNBC_D>(key, "seismic-eccentricity");
+  if (!IsAboveTolerance(row.UserT)) {
+    run.Accounts.Note<T_SNBC_D>(key, "seismic-period-not-of-user");
+  }
+  NoteDirection(run, key, row);
+}
+
+template <class Wind>
+void NoteValues(Conversion& run, std::uint32_t key, const Wind& /*row*/) {
+  run.Accounts.Note<Wind>(key, "wind-direction");
+}
+
+/// Notes the rows of a code, which load cases of this type may name.
+template <class Source>
+void NoteRows(Conversion& run, Text type, Text code) {
+  const auto& rows = run.Source.Rows<Source>();
+  const auto& loadCases = run.Target.Table<T_NGT_STLC_D>();
+  for (const auto [key, row] : rows.Entries()) {
+    const auto loadCase = loadCases.FirstWith<&T_NGT_STLC_D::LCNAME>(row.LoadCase);
+    const auto load = run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(row.LoadCase);
+    if (!loadCase) {
+      run.Accounts.Note<Source>(key, "load-case-not-static");
+    } else if (loadCase->Value.LCTYPE != type || !load || load->Value.AutoLoad != code) {
+      run.Accounts.Note<Source>(key, "auto-load-not-asked-for");
+    } else if (rows.template FirstWith<&Source::LoadCase>(row.LoadCase)->Key != key) {
+      run.Accounts.Note<Source>(key, "row-of-same-name");
+    } else {
+      NoteValues(run, key, row);
+    }
+  }
+}
+
 /// A code as loads name it. The names of wind codes have a blank, those of earthquake codes none.
 struct Code {
   Text Name;
   bool (*ConvertLoad)(Conversion& run, Text load);
+  void (*NoteRows)(Conversion& run, Text type, Text code);
 };
 
-constexpr std::array kWindCodes = std::to_array<Code>({{"UBC 97", ConvertLoad<T_WUB7_D>},
-                                                       {"ASCE 7-98", ConvertLoad<T_WAS8_D>},
-                                                       {"NBCC 95", ConvertLoad<T_WNBC_D>}});
+template <class Source>
+constexpr Code CodeOf(Text name) {
+  return {name, ConvertLoad<Source>, NoteRows<Source>};
+}
+
+constexpr std::array kWindCodes = std::to_array<Code>(
+    {CodeOf<T_WUB7_D>("UBC 97"), CodeOf<T_WAS8_D>("ASCE 7-98"), CodeOf<T_WNBC_D>("NBCC 95")});
 
 constexpr std::array kSeismicCodes =
-    std::to_array<Code>({{"UBC97", ConvertLoad<T_SUB7_D>}, {"NBCC95", ConvertLoad<T_SNBC_D>}});
+    std::to_array<Code>({CodeOf<T_SUB7_D>("UBC97"), CodeOf<T_SNBC_D>("NBCC95")});
 
 template <std::size_t Count>
 bool ConvertByCode(const std::array<Code, Count>& codes, Conversion& run, Text load, Text name) {
   const auto* const code = std::ranges::find(codes, name, &Code::Name);
-  return code != codes.end() && code->ConvertLoad(run, load);
+  if (code != codes.end()) {
+    return code->ConvertLoad(run, load);
+  }
+  if (!name.empty()) {
+    NoteLoad(run, load, "auto-load-code-unlike");
+  }
+  return false;
 }
 
 }  // namespace
@@ -223,6 +306,17 @@ void WriteWind(Conversion& run, Text loadCase, LineWriter& out) {
                             out.WriteLine("\t\t%d, %5g, %5g, , , 0, %5s, NO, , , , , , NO, 1\n\n",
                                           p.iPROC, p.RWS, p.GEF, p.EC);
                           });
+}
+
+// ---- Account ----
+
+void CloseAutoLoads(Conversion& run) {
+  for (const Code& code : kWindCodes) {
+    code.NoteRows(run, kWindType, code.Name);
+  }
+  for (const Code& code : kSeismicCodes) {
+    code.NoteRows(run, kSeismicType, code.Name);
+  }
 }
 
 }  // namespace s2k2ngt

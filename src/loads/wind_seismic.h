@@ -25,7 +25,8 @@ struct T_SUB7_D {
   double UserT = 0.0;
   double R = 0.0;
   Text SoilType;
-  Text Z;  // zone factor
+  Text Z;           // zone factor, or a height that stands before it as MaxZ= or MinZ=
+  Text ZoneFactor;  // as the row states it
   Text SourceType;
   double SourceDist = 0.0;
   double I = 0.0;
@@ -44,6 +45,7 @@ inline constexpr RowKey<T_SUB7_D> kRowKeys<T_SUB7_D>[] = {{"LoadCase=", &T_SUB7_
                                                           {"R=", &T_SUB7_D::R},
                                                           {"SoilType=", &T_SUB7_D::SoilType},
                                                           {"Z=", &T_SUB7_D::Z},
+                                                          {" Z=", &T_SUB7_D::ZoneFactor},
                                                           {"SourceType=", &T_SUB7_D::SourceType},
                                                           Unread{"Ca="},
                                                           Unread{"Cv="},
@@ -265,5 +267,10 @@ void WriteWind(Conversion& run, Text loadCase, LineWriter& out);
 
 /// Writes *SEIS of a load case.
 void WriteSeismic(Conversion& run, Text loadCase, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes what becomes of the parameters of wind and earthquake.
+void CloseAutoLoads(Conversion& run);
 
 }  // namespace s2k2ngt

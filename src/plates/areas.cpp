@@ -4,10 +4,12 @@
 #include "frames/elements.h"
 #include "frames/materials.h"
 #include "joints/nodes.h"
+#include "plates/row_notes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -18,6 +20,8 @@ bool IsTopOrBottom(Text face) { return face == "5" || face == "6"; }
 // ---- Conversion ----
 
 namespace {
+
+constexpr Text kAxisymmetric = "Asolid";
 
 /// What an area section makes of an area.
 struct Classification {
@@ -50,7 +54,8 @@ bool LiesInPlaneOfConstantY(CModel& model, const T_CNAR_D& area) {
   });
 }
 
-void ClassifyShell(Text type, Classification& result, bool& propertyLost) {
+/// False for a type that the host does not have.
+bool ClassifyShell(Text type, Classification& result) {
   result.TYPE = "PLATE";
   if (ContainsBehindStart(type, "Thick")) {
     result.iSUB = 1;
@@ -60,24 +65,26 @@ void ClassifyShell(Text type, Classification& result, bool& propertyLost) {
     result.TYPE = "PLSTRS";
     result.iSUB = 0;
   } else {
-    propertyLost = true;
+    return false;
   }
+  return true;
 }
 
-/// Takes the type of one section of the area's section name.
-void ClassifyBy(const T_ASPR_D& section, bool liesInPlane, Classification& result,
-                bool& propertyLost) {
+/// Takes the type of one section of the area's section name, likewise.
+bool ClassifyBy(const T_ASPR_D& section, bool liesInPlane, Classification& result) {
   if (section.AreaType == "Shell") {
-    ClassifyShell(section.Type, result, propertyLost);
-  } else if (section.AreaType == "Plane" && section.Type == "Plane-Stress") {
+    return ClassifyShell(section.Type, result);
+  }
+  if (section.AreaType == "Plane" && section.Type == "Plane-Stress") {
     result.TYPE = "PLSTRS";
   } else if (section.AreaType == "Plane" && section.Type == "Plane-Strain") {
     result.TYPE = liesInPlane ? "PLSTRN" : "PLSTRS";
-  } else if (section.AreaType == "Asolid") {
+  } else if (section.AreaType == kAxisymmetric) {
     result.TYPE = liesInPlane ? "AXISYM" : "PLSTRS";
   } else {
-    propertyLost = true;
+    return false;
   }
+  return true;
 }
 
 /// The number of a material that is there; 1 when the model has no material at all.
@@ -97,7 +104,13 @@ Classification Classify(Conversion& run, Text sectionName, bool liesInPlane) {
   const auto& sections = run.Source.Rows<T_ASPR_D>();
   for (const std::uint32_t position : sections.AllWith<&T_ASPR_D::Section>(sectionName)) {
     const auto [key, section] = sections.AtWalk(position);
-    ClassifyBy(section, liesInPlane, result, run.Target.bAreaPropertyLost);
+    if (!ClassifyBy(section, liesInPlane, result)) {
+      run.Target.bAreaPropertyLost = true;
+      run.Accounts.Note<T_ASPR_D>(key, "area-section-type-unlike");
+    }
+    if (!run.Source.Rows<T_MTGN_D>().FirstWith<&T_MTGN_D::Material>(section.Material)) {
+      run.Accounts.Note<T_ASPR_D>(key, "area-material-unknown");
+    }
     if (const auto iMAT = KnownMaterial(run.Source, section.Material)) {
       result.Success = true;
       result.iPRO = static_cast<std::int32_t>(key);
@@ -113,14 +126,17 @@ class AreaClassifier {
  public:
   explicit AreaClassifier(Conversion& run) : m_Run(run) {}
 
-  const Classification& Of(Text sectionName, const T_CNAR_D& area) {
+  const Classification& Of(Text sectionName, std::uint32_t key, const T_CNAR_D& area) {
     const auto [outcomes, isNew] = m_Outcomes.Meet(sectionName);
     if (isNew) {
       outcomes = {Classify(m_Run, sectionName, true), Classify(m_Run, sectionName, false)};
     }
     const bool planeMatters = outcomes.InPlane.TYPE != outcomes.OutOfPlane.TYPE;
-    return planeMatters && !LiesInPlaneOfConstantY(m_Run.Source, area) ? outcomes.OutOfPlane
-                                                                       : outcomes.InPlane;
+    if (planeMatters && !LiesInPlaneOfConstantY(m_Run.Source, area)) {
+      m_Run.Accounts.Note<T_CNAR_D>(key, "area-not-in-plane");
+      return outcomes.OutOfPlane;
+    }
+    return outcomes.InPlane;
   }
 
  private:
@@ -132,21 +148,39 @@ class AreaClassifier {
   WorkedOut<Text, Outcomes> m_Outcomes;
 };
 
-T_NGT_PLAT_D PlateOf(CModel& model, const T_CNAR_D& area, AreaClassifier& classifier) {
+using AreaAssignment = std::optional<CKeyedTable<T_ASCA_D>::Entry>;
+
+/// Notes why an area keeps the numbers that stand for no section.
+void NoteDefaults(Conversion& run, std::uint32_t areaKey, const AreaAssignment& assignment) {
+  if (!assignment) {
+    run.Accounts.Note<T_CNAR_D>(areaKey, "area-without-section");
+    return;
+  }
+  const auto section =
+      run.Source.Rows<T_ASPR_D>().FirstWith<&T_ASPR_D::Section>(assignment->Value.Section);
+  run.Accounts.Note<T_ASCA_D>(assignment->Key,
+                              section ? Why("area-material-unknown") : Why("area-section-unknown"));
+}
+
+T_NGT_PLAT_D PlateOf(Conversion& run, std::uint32_t key, const T_CNAR_D& area,
+                     AreaClassifier& classifier) {
+  CModel& model = run.Source;
   T_NGT_PLAT_D plate;
   plate.Label = area.Area;
   plate.iN = {area.Joint1, area.Joint2, area.Joint3, area.Joint4};
   if (const auto axes = model.Rows<T_ALTP_D>().FirstWith<&T_ALTP_D::Area>(area.Area)) {
     plate.Angle = axes->Value.Angle;
   }
-  const auto assignment = model.Rows<T_ASCA_D>().FirstWith<&T_ASCA_D::Area>(area.Area);
+  const AreaAssignment assignment = model.Rows<T_ASCA_D>().FirstWith<&T_ASCA_D::Area>(area.Area);
   const Text sectionName = assignment ? assignment->Value.Section : Text();
-  const Classification& found = classifier.Of(sectionName, area);
+  const Classification& found = classifier.Of(sectionName, key, area);
   plate.TYPE = found.TYPE;
   if (found.Success) {
     plate.iPRO = found.iPRO;
     plate.iMAT = found.iMAT;
     plate.iSUB = found.iSUB;
+  } else if (run.Accounts.IsKept()) {
+    NoteDefaults(run, key, assignment);
   }
   return plate;
 }
@@ -159,7 +193,7 @@ bool ConvertAreas(Conversion& run) {
   auto& plates = run.Target.Table<T_NGT_PLAT_D>();
   plates.Reserve(areas.Count());
   for (const auto [key, area] : areas.Entries()) {
-    plates.Insert(key, PlateOf(run.Source, area, classifier));
+    plates.Insert(key, PlateOf(run, key, area, classifier));
     run.Elements.NoteLabel(area.Area);
   }
   // Set whether or not an area has local axes: their table is refused, so that the engineer has to
@@ -182,7 +216,7 @@ bool CheckAreaGravityLoads(Conversion& run) {
 
 bool ConvertThicknesses(Conversion& run) {
   for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Walk()) {
-    if (section.AreaType == "Asolid") {
+    if (section.AreaType == kAxisymmetric) {
       continue;
     }
     const bool same = section.Thickness == section.BendThick;
@@ -252,6 +286,61 @@ bool WriteThicknesses(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+void NoteCorners(Conversion& run, std::uint32_t key, const T_CNAR_D& area) {
+  const std::array corners = {area.Joint1, area.Joint2, area.Joint3, area.Joint4};
+  if (!area.Joint4.empty()) {
+    NoteUnknownJoints<T_CNAR_D>(run, key, corners);
+    return;
+  }
+  run.Accounts.Note<T_CNAR_D>(key, "area-of-three-joints");
+  NoteUnknownJoints<T_CNAR_D>(run, key, std::span(corners).first(3));
+}
+
+void NoteAssignments(Conversion& run) {
+  const auto& assignments = run.Source.Rows<T_ASCA_D>();
+  for (const auto [key, row] : assignments.Entries()) {
+    if (!run.Source.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(row.Area)) {
+      run.Accounts.Note<T_ASCA_D>(key, "area-unknown");
+    } else if (!IsTheOneMet<&T_ASCA_D::Area>(assignments, key, row)) {
+      run.Accounts.Note<T_ASCA_D>(key, "row-of-same-name");
+    }
+  }
+}
+
+/// Notes the sections that no area has been given.
+void NoteSections(Conversion& run, const std::unordered_set<Text>& namesInUse) {
+  std::unordered_set<Text> settled;  // names of which areas have a section with its material
+  for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Walk()) {
+    if (!namesInUse.contains(section.Section)) {
+      if (section.AreaType == kAxisymmetric) {
+        run.Accounts.Note<T_ASPR_D>(key, "property-not-used");
+      }
+    } else if (settled.contains(section.Section)) {
+      run.Accounts.Note<T_ASPR_D>(key, "area-section-of-same-name");
+    } else if (KnownMaterial(run.Source, section.Material)) {
+      settled.insert(section.Section);
+    }
+  }
+}
+
+}  // namespace
+
+void CloseAreas(Conversion& run) {
+  std::unordered_set<Text> namesInUse;
+  for (const auto [key, area] : run.Source.Rows<T_CNAR_D>().Entries()) {
+    NoteCorners(run, key, area);
+    if (const auto found = run.Source.Rows<T_ASCA_D>().FirstWith<&T_ASCA_D::Area>(area.Area)) {
+      namesInUse.insert(found->Value.Section);
+    }
+  }
+  NoteAssignments(run);
+  NoteSections(run, namesInUse);
 }
 
 }  // namespace s2k2ngt

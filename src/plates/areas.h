@@ -153,4 +153,9 @@ void WritePlanarElements(Conversion& run, LineWriter& out);
 /// Writes *THICKNESS.
 bool WriteThicknesses(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes what becomes of areas, their sections and the assignments of these.
+void CloseAreas(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -8,6 +8,12 @@
 
 namespace s2k2ngt {
 
+// ---- Source rows ----
+
+bool IsLostKind(Text linkType) {
+  return linkType == "MultiLinear" || linkType == "Plastic (Kinematic)";
+}
+
 // ---- Conversion ----
 
 namespace {
@@ -15,6 +21,39 @@ namespace {
 double AngleOfLink(CModel& model, Text link) {
   return AngleByAxes<T_LLCT_D, &T_LLCT_D::Link, T_LLCA_D, &T_LLCA_D::Link>(model, link);
 }
+
+// Places of a property's directions.
+constexpr std::size_t kDY = 1;
+constexpr std::size_t kDZ = 2;
+
+bool IsRotation(std::size_t place) { return place > kDZ; }
+
+/// The place of a source direction. The target's axes y and z are the source's axes 3 and 2.
+std::optional<std::size_t> PlaceOf(Text dof) {
+  constexpr std::array<Text, 6> kPlaces = {"U1", "U3", "U2", "R1", "R3", "R2"};
+  const auto* const found = std::ranges::find(kPlaces, dof);
+  return found == kPlaces.end() ? std::nullopt
+                                : std::optional(static_cast<std::size_t>(found - kPlaces.begin()));
+}
+
+/// The rows that the values of a property's directions come from.
+template <class Row>
+class TakenRows {
+ public:
+  explicit TakenRows(Ledger& accounts) : m_Accounts(accounts) {}
+
+  /// A row writes over the values of the one before it in its place.
+  void Take(std::size_t place, std::uint32_t key) {
+    if (m_Keys[place] != 0) {
+      m_Accounts.Note<Row>(m_Keys[place], "row-of-same-name");
+    }
+    m_Keys[place] = key;
+  }
+
+ private:
+  Ledger& m_Accounts;
+  std::array<std::uint32_t, 6> m_Keys{};
+};
 
 /// Takes a direction of a linear property into the link. The target's axes y and z are the source's
 /// axes 3 and 2.
@@ -42,9 +81,23 @@ void TakeLinearDirection(const T_LPLN_D& row, T_NGT_ELNK_D& link) {
   }
 }
 
-/// Sets the label, the joints and, where the link has axes of its own, the angle; false in a model without
-/// connectivity of links. Meant so: a link that is not there has the joints of the last link of the
-/// walk.
+void NoteLinearDirection(Conversion& run, std::uint32_t key, const T_LPLN_D& row,
+                         TakenRows<T_LPLN_D>& taken) {
+  const auto place = PlaceOf(row.DOF);
+  if (!place) {
+    run.Accounts.Note<T_LPLN_D>(key, "link-direction-unknown");
+    return;
+  }
+  taken.Take(*place, key);
+  const bool hasShear = *place == kDY || *place == kDZ;
+  if (hasShear ? row.DJ < 0 : IsAboveTolerance(row.DJ)) {
+    run.Accounts.Note<T_LPLN_D>(key, "link-shear-distance");
+  }
+}
+
+/// Sets the label, the joints and, where the link has axes of its own, the angle; false in a model
+/// without connectivity of links. Meant so: a link that is not there has the joints of the last
+/// link of the walk.
 template <class Link>
 bool SetEnds(CModel& model, const T_SMLA_D& summary, Link& link) {
   const auto joints = model.Rows<T_CNLK_D>().FirstOrLastWith<&T_CNLK_D::Link>(summary.Link);
@@ -61,11 +114,14 @@ bool SetEnds(CModel& model, const T_SMLA_D& summary, Link& link) {
 }
 
 /// An elastic link with the values of a linear property, still without its ends.
-T_NGT_ELNK_D ElasticLinkOf(CModel& model, Text property) {
+T_NGT_ELNK_D ElasticLinkOf(Conversion& run, Text property) {
   T_NGT_ELNK_D link;
-  const auto& directions = model.Rows<T_LPLN_D>();
+  const auto& directions = run.Source.Rows<T_LPLN_D>();
+  TakenRows<T_LPLN_D> taken(run.Accounts);
   for (const std::uint32_t position : directions.AllWith<&T_LPLN_D::Link>(property)) {
-    TakeLinearDirection(directions.AtWalk(position).Value, link);
+    const auto [key, row] = directions.AtWalk(position);
+    TakeLinearDirection(row, link);
+    NoteLinearDirection(run, key, row, taken);
   }
   return link;
 }
@@ -76,7 +132,7 @@ using ElasticLinks = WorkedOut<Text, T_NGT_ELNK_D>;
 void ConvertElasticLink(Conversion& run, const T_SMLA_D& summary, ElasticLinks& ofProperties) {
   const auto [known, isNew] = ofProperties.Meet(summary.LinkProp);
   if (isNew) {
-    known = ElasticLinkOf(run.Source, summary.LinkProp);
+    known = ElasticLinkOf(run, summary.LinkProp);
   }
   T_NGT_ELNK_D link = known;
   if (SetEnds(run.Source, summary, link)) {
@@ -90,20 +146,6 @@ void ConvertNonlinearLink(Conversion& run, const T_SMLA_D& summary) {
   if (SetEnds(run.Source, summary, link)) {
     run.Target.Table<T_NGT_NLNK_D>().Append(link);
   }
-}
-
-// Places of a property's directions.
-constexpr std::size_t kDY = 1;
-constexpr std::size_t kDZ = 2;
-
-bool IsRotation(std::size_t place) { return place > kDZ; }
-
-/// The place of a source direction. The target's axes y and z are the source's axes 3 and 2.
-std::optional<std::size_t> PlaceOf(Text dof) {
-  constexpr std::array<Text, 6> kPlaces = {"U1", "U3", "U2", "R1", "R3", "R2"};
-  const auto* const found = std::ranges::find(kPlaces, dof);
-  return found == kPlaces.end() ? std::nullopt
-                                : std::optional(static_cast<std::size_t>(found - kPlaces.begin()));
 }
 
 // The values of a direction that is nonlinear, for each kind of link.
@@ -164,24 +206,58 @@ void TakeShearDistance(double distance, T_NGT_NLPR_D& property, double& target) 
   }
 }
 
+/// Notes which values of a direction do not go over as they stand.
+template <std::derived_from<NonlinearDirection> Record>
+void NoteNonlinearDirection(Conversion& run, std::uint32_t key, const Record& row,
+                            std::size_t place) {
+  constexpr bool kIsIsolator = std::same_as<Record, T_LPRB_D> || std::same_as<Record, T_LPSL_D>;
+  const double damping = IsRotation(place) ? row.RotCE : row.TransCE;
+  if (!row.NonLinear && IsAboveTolerance(damping)) {
+    run.Accounts.Note<Record>(key, "damping-of-linear-direction");
+  }
+  if (kIsIsolator && row.NonLinear && place == kDY) {
+    run.Accounts.Note<Record>(key, "isolator-yield-in-u3");
+  }
+  if (IsAboveTolerance(row.DJ)) {
+    run.Accounts.Note<Record>(key, "link-shear-distance");
+  }
+}
+
+/// Notes the rows that belong to no property of this kind.
+template <std::derived_from<NonlinearDirection> Record>
+void NoteRowsOfNoProperty(Conversion& run, Text linkType) {
+  const auto& properties = run.Source.Rows<T_LPGN_D>();
+  for (const auto [key, row] : run.Source.Rows<Record>().Entries()) {
+    if (!properties.FirstWith<&NameAndKind>(QualifiedLabel{row.Link, linkType})) {
+      run.Accounts.Note<Record>(key, "direction-of-unknown-property");
+    }
+  }
+}
+
 /// The directions of a property from the table of its kind. An empty table leaves the property
 /// without name and type.
 template <std::derived_from<NonlinearDirection> Record>
-void TakeDirections(CModel& model, Text name, Text type, T_NGT_NLPR_D& property) {
-  const auto& rows = model.Rows<Record>();
+void TakeDirections(Conversion& run, Text name, Text type, T_NGT_NLPR_D& property) {
+  const auto& rows = run.Source.Rows<Record>();
   if (rows.Empty()) {
     return;
   }
   std::optional<std::size_t> place;
+  TakenRows<Record> taken(run.Accounts);
   for (const std::uint32_t position : rows.template AllWith<&NonlinearDirection::Link>(name)) {
-    const Record& row = rows.AtWalk(position).Value;
+    const auto [key, row] = rows.AtWalk(position);
     // Meant so: a row of a direction that there is not falls on that of the row before it.
     if (const auto ownPlace = PlaceOf(row.DOF)) {
       place = ownPlace;
+    } else {
+      run.Accounts.Note<Record>(
+          key, place ? Why("link-direction-misplaced") : Why("link-direction-unknown"));
     }
     if (!place) {
       continue;
     }
+    taken.Take(*place, key);
+    NoteNonlinearDirection(run, key, row, *place);
     LinkDirection& direction = property.Directions[*place];
     direction.bL = "YES";
     direction.D = IsRotation(*place) ? row.RotKE : row.TransKE;
@@ -205,32 +281,31 @@ void TakeDirections(CModel& model, Text name, Text type, T_NGT_NLPR_D& property)
 struct PropertyKind {
   Text LinkType;
   Text TYPE;
-  void (*TakeDirections)(CModel& model, Text name, Text type, T_NGT_NLPR_D& property);
+  void (*TakeDirections)(Conversion& run, Text name, Text type, T_NGT_NLPR_D& property);
+  void (*NoteRowsOfNoProperty)(Conversion& run, Text linkType);
 };
+
+template <std::derived_from<NonlinearDirection> Record>
+constexpr PropertyKind KindOf(Text linkType, Text type) {
+  return {linkType, type, TakeDirections<Record>, NoteRowsOfNoProperty<Record>};
+}
 
 constexpr Text kDamper = "VD";
 
 constexpr std::array kPropertyKinds = std::to_array<PropertyKind>({
-    {"Damper", kDamper, TakeDirections<T_LPDM_D>},
-    {"Gap", "GAP", TakeDirections<T_LPGP_D>},
-    {"Hook", "HOOK", TakeDirections<T_LPHK_D>},
-    {"Rubber Isolator", "LRBI", TakeDirections<T_LPRB_D>},
-    {"Friction Isolator", "FPSI", TakeDirections<T_LPSL_D>},
-    {"Plastic (Wen)", "HS", TakeDirections<T_LPPW_D>},
+    KindOf<T_LPDM_D>("Damper", kDamper),
+    KindOf<T_LPGP_D>("Gap", "GAP"),
+    KindOf<T_LPHK_D>("Hook", "HOOK"),
+    KindOf<T_LPRB_D>("Rubber Isolator", "LRBI"),
+    KindOf<T_LPSL_D>("Friction Isolator", "FPSI"),
+    KindOf<T_LPPW_D>("Plastic (Wen)", "HS"),
 });
 
-constexpr Text kLinear = "Linear";
-
-/// True for the kinds of links that the target does not have.
-bool IsLost(Text linkType) {
-  return linkType == "MultiLinear" || linkType == "Plastic (Kinematic)";
-}
-
-T_NGT_NLPR_D PropertyOf(CModel& model, Text name, Text linkType) {
+T_NGT_NLPR_D PropertyOf(Conversion& run, Text name, Text linkType) {
   T_NGT_NLPR_D property;
   const auto* const kind = std::ranges::find(kPropertyKinds, linkType, &PropertyKind::LinkType);
   if (kind != kPropertyKinds.end()) {
-    kind->TakeDirections(model, name, kind->TYPE, property);
+    kind->TakeDirections(run, name, kind->TYPE, property);
   }
   if (property.TYPE == kDamper) {
     property.bRIGDBR = "YES";
@@ -243,14 +318,17 @@ void ConvertProperties(Conversion& run) {
   // Of rows that repeat a property the first works it out.
   WorkedOut<QualifiedLabel, std::uint32_t> keys;
   for (const auto [key, row] : run.Source.Rows<T_LPGN_D>().Walk()) {
-    if (row.LinkType == kLinear || IsLost(row.LinkType)) {
+    if (row.LinkType == kLinearLink || IsLostKind(row.LinkType)) {
       continue;
     }
     const auto [known, isNew] = keys.Meet({row.Link, row.LinkType});
     T_NGT_NLPR_D property =
-        isNew ? PropertyOf(run.Source, row.Link, row.LinkType) : *properties.Find(known);
+        isNew ? PropertyOf(run, row.Link, row.LinkType) : *properties.Find(known);
     if (isNew) {
       known = static_cast<std::uint32_t>(properties.Count()) + 1;
+    }
+    if (property.TYPE.empty()) {
+      run.Accounts.Note<T_LPGN_D>(key, "link-property-without-values");
     }
     property.TW = row.Weight;
     properties.Append(property);
@@ -266,11 +344,11 @@ bool ConvertLinks(Conversion& run) {
   }
   ElasticLinks ofProperties;
   for (const auto [key, link] : links.Walk()) {
-    if (link.LinkJoint == "SingleJoint") {
+    if (link.LinkJoint == kSingleJoint) {
       run.Warnings.bSingleJointLink = true;
-    } else if (link.LinkType == kLinear) {
+    } else if (link.LinkType == kLinearLink) {
       ConvertElasticLink(run, link, ofProperties);
-    } else if (!IsLost(link.LinkType)) {
+    } else if (!IsLostKind(link.LinkType)) {
       ConvertNonlinearLink(run, link);
     }
   }
@@ -407,6 +485,14 @@ bool WriteNonlinearLinks(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+void NoteDirectionsOfNoProperty(Conversion& run) {
+  for (const PropertyKind& kind : kPropertyKinds) {
+    kind.NoteRowsOfNoProperty(run, kind.LinkType);
+  }
 }
 
 }  // namespace s2k2ngt

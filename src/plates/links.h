@@ -49,6 +49,15 @@ inline constexpr RowKey<T_CNLK_D> kRowKeys<T_CNLK_D>[] = {{"Link=", &T_CNLK_D::L
                                                           {"JointJ=", &T_CNLK_D::JointJ},
                                                           Unread{"Length="}};
 
+/// The type of the links and properties that become elastic links.
+inline constexpr Text kLinearLink = "Linear";
+
+/// What a link to the ground states as its LinkJoint=.
+inline constexpr Text kSingleJoint = "SingleJoint";
+
+/// True for the kinds of links that the target does not have.
+bool IsLostKind(Text linkType);
+
 /// Typical local axes of a link.
 struct T_LLCT_D {
   static constexpr Text kTable = "T_LLCT_D";
@@ -106,6 +115,11 @@ struct T_LPGN_D {
   Text LinkType;
   double Weight = 0.0;
 };
+
+/// Its name and kind, by which the rows of its directions belong to it.
+inline QualifiedLabel NameAndKind(const T_LPGN_D& property) {
+  return {property.Link, property.LinkType};
+}
 
 template <>
 inline constexpr RowKey<T_LPGN_D> kRowKeys<T_LPGN_D>[] = {{"Link=", &T_LPGN_D::Link},
@@ -373,5 +387,13 @@ bool WriteLinkProperties(Conversion& run, LineWriter& out);
 
 /// Writes *NL-LINK.
 bool WriteNonlinearLinks(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes the rows of nonlinear directions that belong to no property of their kind.
+void NoteDirectionsOfNoProperty(Conversion& run);
+
+/// Notes what becomes of links, their axes and their properties.
+void CloseLinks(Conversion& run);
 
 }  // namespace s2k2ngt

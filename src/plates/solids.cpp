@@ -3,6 +3,10 @@
 #include "frames/elements.h"
 #include "frames/materials.h"
 #include "plates/areas.h"
+#include "plates/row_notes.h"
+
+#include <span>
+#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -20,21 +24,27 @@ namespace {
 /// Sets the number of the solid's material. Meant so: what is not found keeps the number of the
 /// solid looked up before, so that a solid without a known material shares that of its neighbour in
 /// the walk.
-void FindMaterial(CModel& model, Text solid, std::int32_t& iMAT) {
+void FindMaterial(Conversion& run, std::uint32_t solidKey, Text solid, std::int32_t& iMAT) {
+  CModel& model = run.Source;
   const auto assignment = model.Rows<T_SLPA_D>().FirstWith<&T_SLPA_D::Solid>(solid);
   if (!assignment) {
+    run.Accounts.Note<T_CNSL_D>(solidKey, "solid-without-property");
     return;
   }
   const auto property =
       model.Rows<T_SLPD_D>().FirstWith<&T_SLPD_D::SolidProp>(assignment->Value.SolidProp);
   if (!property) {
+    run.Accounts.Note<T_SLPA_D>(assignment->Key, "solid-property-unknown");
     return;
   }
   const auto material =
       model.Rows<T_MTGN_D>().FirstWith<&T_MTGN_D::Material>(property->Value.Material);
-  if (material) {
-    iMAT = static_cast<std::int32_t>(material->Key);
+  if (!material) {
+    run.Accounts.Note<T_SLPA_D>(assignment->Key, "solid-material-unknown");
+    run.Accounts.Note<T_SLPD_D>(property->Key, "solid-material-unknown");
+    return;
   }
+  iMAT = static_cast<std::int32_t>(material->Key);
 }
 
 }  // namespace
@@ -43,7 +53,7 @@ bool ConvertSolids(Conversion& run) {
   std::int32_t iMAT = 0;  // kept from solid to solid
   ReserveForRows<T_NGT_SOLD_D, T_CNSL_D>(run);
   for (const auto [key, solid] : run.Source.Rows<T_CNSL_D>().Walk()) {
-    FindMaterial(run.Source, solid.Solid, iMAT);
+    FindMaterial(run, key, solid.Solid, iMAT);
     run.Elements.NoteLabel(solid.Solid);
     run.Target.Add(
         key, T_NGT_SOLD_D{.Label = solid.Solid, .iMAT = iMAT, .iPRO = 0, .iN = JointsOf(solid)});
@@ -57,6 +67,7 @@ bool ConvertSolids(Conversion& run) {
 bool CheckSolidGravityLoads(Conversion& run) {
   if (!run.Source.Rows<T_SLLG_D>().Empty()) {
     run.Warnings.bSolidGravityLost = true;
+    run.Accounts.NoteAll<T_SLLG_D>("gravity-of-solid-or-link");
   }
   return true;
 }
@@ -96,6 +107,58 @@ void WriteSolidElements(Conversion& run, LineWriter& out) {
       out.WriteLine("\n");
     }
   }
+}
+
+// ---- Account ----
+
+namespace {
+
+void NoteSolid(Conversion& run, std::uint32_t key, const T_CNSL_D& solid) {
+  const std::array<Text, 8> corners = JointsOf(solid);
+  const bool isWedge = solid.Joint7.empty() && solid.Joint8.empty();
+  NoteUnknownJoints<T_CNSL_D>(run, key, std::span(corners).first(isWedge ? 6 : 8));
+  if (!run.Elements.Renumbered() &&
+      run.Source.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(solid.Solid)) {
+    run.Accounts.Note<T_CNSL_D>(key, "element-number-shared");
+  }
+}
+
+void NoteAssignments(Conversion& run) {
+  const auto& assignments = run.Source.Rows<T_SLPA_D>();
+  for (const auto [key, row] : assignments.Entries()) {
+    if (!run.Source.Rows<T_CNSL_D>().FirstWith<&T_CNSL_D::Solid>(row.Solid)) {
+      run.Accounts.Note<T_SLPA_D>(key, "solid-unknown");
+    } else if (!IsTheOneMet<&T_SLPA_D::Solid>(assignments, key, row)) {
+      run.Accounts.Note<T_SLPA_D>(key, "row-of-same-name");
+    }
+  }
+}
+
+void NoteProperties(Conversion& run, const std::unordered_set<Text>& namesInUse) {
+  const auto& properties = run.Source.Rows<T_SLPD_D>();
+  for (const auto [key, property] : properties.Entries()) {
+    if (!IsTheOneMet<&T_SLPD_D::SolidProp>(properties, key, property)) {
+      run.Accounts.Note<T_SLPD_D>(key, "row-of-same-name");
+    } else if (!namesInUse.contains(property.SolidProp)) {
+      run.Accounts.Note<T_SLPD_D>(key, "property-not-used");
+    }
+  }
+}
+
+}  // namespace
+
+void CloseSolids(Conversion& run) {
+  std::unordered_set<Text> namesInUse;
+  for (const auto [key, solid] : run.Source.Rows<T_CNSL_D>().Entries()) {
+    NoteSolid(run, key, solid);
+    if (const auto found = run.Source.Rows<T_SLPA_D>().FirstWith<&T_SLPA_D::Solid>(solid.Solid)) {
+      namesInUse.insert(found->Value.SolidProp);
+    }
+  }
+  NoteAssignments(run);
+  NoteProperties(run, namesInUse);
+  run.Accounts.NoteAll<T_SLAM_D>("table-not-read");
+  run.Accounts.NoteAll<T_SLPT_D>("table-not-read");
 }
 
 }  // namespace s2k2ngt

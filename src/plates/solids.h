@@ -119,4 +119,9 @@ bool CheckSolidGravityLoads(Conversion& run);
 /// Writes the solid lines of *ELEMENT.
 void WriteSolidElements(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes what becomes of solids, their properties and what is assigned to them.
+void CloseSolids(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -1,5 +1,9 @@
 #include "run/accounts.h"
 
+#include "loads/wind_seismic.h"
+#include "plates/areas.h"
+#include "plates/links.h"
+#include "plates/solids.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
@@ -29,7 +33,12 @@ bool HasNoModelData(Text title) {
 }
 
 /// The closing notes of the rooms, in the order of the source's topics.
-constexpr std::array<void (*)(Conversion& run), 0> kClosings = {};
+constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
+    CloseAreas,
+    CloseSolids,
+    CloseLinks,
+    CloseAutoLoads,
+});
 
 }  // namespace
 

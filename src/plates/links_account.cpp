@@ -1,0 +1,178 @@
+#include "plates/links.h"
+#include "plates/row_notes.h"
+
+#include <array>
+#include <optional>
+#include <unordered_set>
+
+namespace s2k2ngt {
+
+// ---- Account ----
+
+namespace {
+
+/// Why a link of the summary is not written; nothing for one that is.
+std::optional<Why> LossOf(CModel& model, const T_SMLA_D& link) {
+  if (link.LinkJoint == kSingleJoint) {
+    return Why("link-of-single-joint");
+  }
+  if (IsLostKind(link.LinkType)) {
+    return Why("link-kind-unlike");
+  }
+  if (model.Rows<T_CNLK_D>().Empty()) {
+    return Why("link-unknown");
+  }
+  return std::nullopt;
+}
+
+/// What the summary says of the links of a label.
+struct LinksOfLabel {
+  std::optional<Why> Loss;  // nothing if one of them is written
+  bool LocalAxes = false;   // of one that is written
+};
+
+LinksOfLabel LinksOf(CModel& model, Text label) {
+  const auto& links = model.Rows<T_SMLA_D>();
+  LinksOfLabel found{.Loss = model.Rows<T_CNLK_D>().FirstWith<&T_CNLK_D::Link>(label)
+                                 ? Why("link-without-summary")
+                                 : Why("link-unknown")};
+  bool isWritten = false;
+  for (const std::uint32_t position : links.AllWith<&T_SMLA_D::Link>(label)) {
+    const T_SMLA_D& link = links.AtWalk(position).Value;
+    found.Loss = LossOf(model, link);
+    isWritten = isWritten || !found.Loss;
+    found.LocalAxes = found.LocalAxes || (!found.Loss && link.LocalAxes);
+  }
+  if (isWritten) {
+    found.Loss.reset();
+  }
+  return found;
+}
+
+bool HasProperty(Conversion& run, const T_SMLA_D& link) {
+  if (link.LinkType != kLinearLink) {
+    return !link.LinkProp.empty() &&
+           run.Target.Table<T_NGT_NLPR_D>().FirstWith<&T_NGT_NLPR_D::NAME>(link.LinkProp);
+  }
+  // A property of a link that moves freely has no rows of directions.
+  return run.Source.Rows<T_LPLN_D>().FirstWith<&T_LPLN_D::Link>(link.LinkProp) ||
+         run.Source.Rows<T_LPGN_D>().FirstWith<&NameAndKind>(
+             QualifiedLabel{link.LinkProp, kLinearLink});
+}
+
+using Names = std::unordered_set<Text>;
+
+/// Notes the links of the summary; enters the properties of elastic links.
+void NoteLinks(Conversion& run, Names& elastic) {
+  for (const auto [key, link] : run.Source.Rows<T_SMLA_D>().Entries()) {
+    if (const auto loss = LossOf(run.Source, link)) {
+      run.Accounts.Note<T_SMLA_D>(key, *loss);
+      continue;
+    }
+    if (!run.Source.Rows<T_CNLK_D>().FirstWith<&T_CNLK_D::Link>(link.Link)) {
+      run.Accounts.Note<T_SMLA_D>(key, "link-without-joints");
+    }
+    if (link.LocalAxes && !run.Source.Rows<T_LLCT_D>().FirstWith<&T_LLCT_D::Link>(link.Link)) {
+      run.Accounts.Note<T_SMLA_D>(key, "link-axes-missing");
+    }
+    if (!HasProperty(run, link)) {
+      run.Accounts.Note<T_SMLA_D>(key, "link-property-unknown");
+    }
+    if (link.LinkType == kLinearLink) {
+      elastic.insert(link.LinkProp);
+    }
+  }
+}
+
+/// Goes through the rows that name links. Those of which another one is met, and those of links
+/// that are not written, are noted; `note` is called for the others.
+template <class Row, class NoteFurther>
+void NoteRowsOfLinks(Conversion& run, NoteFurther note) {
+  const auto& rows = run.Source.Rows<Row>();
+  for (const auto [key, row] : rows.Entries()) {
+    if (!IsTheOneMet<&Row::Link>(rows, key, row)) {
+      run.Accounts.Note<Row>(key, "row-of-same-name");
+      continue;
+    }
+    const LinksOfLabel links = LinksOf(run.Source, row.Link);
+    if (links.Loss) {
+      run.Accounts.Note<Row>(key, *links.Loss);
+    } else {
+      note(key, row, links.LocalAxes);
+    }
+  }
+}
+
+void NoteEnds(Conversion& run) {
+  NoteRowsOfLinks<T_CNLK_D>(run, [&](std::uint32_t key, const T_CNLK_D& row, bool) {
+    NoteUnknownJoints<T_CNLK_D>(run, key, std::array{row.JointI, row.JointJ});
+  });
+}
+
+void NoteAxes(Conversion& run) {
+  const auto& typical = run.Source.Rows<T_LLCT_D>();
+  const auto& advanced = run.Source.Rows<T_LLCA_D>();
+  NoteRowsOfLinks<T_LLCT_D>(run, [&](std::uint32_t key, const T_LLCT_D& row, bool isAskedFor) {
+    const bool saysNothing = !IsAboveTolerance(row.Angle) && !row.AdvanceAxes;
+    if (!isAskedFor && !saysNothing) {
+      run.Accounts.Note<T_LLCT_D>(key, "link-axes-not-asked-for");
+    } else if (row.AdvanceAxes && !advanced.FirstWith<&T_LLCA_D::Link>(row.Link)) {
+      run.Accounts.Note<T_LLCT_D>(key, "link-axes-missing");
+    }
+  });
+  NoteRowsOfLinks<T_LLCA_D>(run, [&](std::uint32_t key, const T_LLCA_D& row, bool isAskedFor) {
+    const auto angle = typical.FirstWith<&T_LLCT_D::Link>(row.Link);
+    const bool isRead = isAskedFor && angle && angle->Value.AdvanceAxes;
+    run.Accounts.Note<T_LLCA_D>(
+        key, isRead ? Why("link-advanced-axes") : Why("link-axes-not-asked-for"));
+  });
+}
+
+void NoteProperties(Conversion& run, const Names& elastic) {
+  for (const auto [key, property] : run.Source.Rows<T_LPGN_D>().Entries()) {
+    if (IsLostKind(property.LinkType)) {
+      run.Accounts.Note<T_LPGN_D>(key, "link-kind-unlike");
+    } else if (property.LinkType == kLinearLink && IsAboveTolerance(property.Weight)) {
+      run.Accounts.Note<T_LPGN_D>(key, "weight-of-linear-link");
+    }
+  }
+  for (const auto [key, direction] : run.Source.Rows<T_LPLN_D>().Entries()) {
+    if (!elastic.contains(direction.Link)) {
+      run.Accounts.Note<T_LPLN_D>(key, "property-not-used");
+    }
+  }
+  NoteDirectionsOfNoProperty(run);
+}
+
+template <class... Rows>
+void NoteAll(Conversion& run, Why why) {
+  (run.Accounts.NoteAll<Rows>(why), ...);
+}
+
+/// Notes all tables of a model without a summary of links.
+void NoteWithoutSummary(Conversion& run) {
+  NoteAll<T_CNLK_D, T_LLCT_D, T_LLCA_D, T_LPAN_D>(run, "link-without-summary");
+  const Why ofProperties =
+      run.Source.Rows<T_CNLK_D>().Empty() ? Why("property-not-used") : Why("link-without-summary");
+  NoteAll<T_LPGN_D, T_LPLN_D, T_LPDM_D, T_LPGP_D, T_LPHK_D, T_LPRB_D, T_LPSL_D, T_LPPW_D>(
+      run, ofProperties);
+}
+
+}  // namespace
+
+void CloseLinks(Conversion& run) {
+  NoteAll<T_LPMT_D, T_LPPK_D>(run, "link-kind-unlike");
+  NoteAll<T_LLDG_D>(run, "gravity-of-solid-or-link");
+  if (run.Source.Rows<T_SMLA_D>().Empty()) {
+    NoteWithoutSummary(run);
+    return;
+  }
+  NoteAll<T_LPAN_D>(run, "link-assignment-in-summary");
+  Names elastic;
+  NoteLinks(run, elastic);
+  NoteEnds(run);
+  NoteAxes(run);
+  NoteProperties(run, elastic);
+}
+
+}  // namespace s2k2ngt
