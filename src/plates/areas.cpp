@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace s2k2ngt {
@@ -107,9 +108,6 @@ Classification Classify(Conversion& run, Text sectionName, bool liesInPlane) {
     if (!ClassifyBy(section, liesInPlane, result)) {
       run.Target.bAreaPropertyLost = true;
       run.Accounts.Note<T_ASPR_D>(key, "area-section-type-unlike");
-    }
-    if (!run.Source.Rows<T_MTGN_D>().FirstWith<&T_MTGN_D::Material>(section.Material)) {
-      run.Accounts.Note<T_ASPR_D>(key, "area-material-unknown");
     }
     if (const auto iMAT = KnownMaterial(run.Source, section.Material)) {
       result.Success = true;
@@ -313,18 +311,33 @@ void NoteAssignments(Conversion& run) {
   }
 }
 
-/// Notes the sections that no area has been given.
+/// The key of the section that the areas of each name have: the first of a known material.
+std::unordered_map<Text, std::uint32_t> SectionsByName(CModel& model) {
+  std::unordered_map<Text, std::uint32_t> keys;
+  for (const auto [key, section] : model.Rows<T_ASPR_D>().Walk()) {
+    if (KnownMaterial(model, section.Material)) {
+      keys.emplace(section.Section, key);
+    }
+  }
+  return keys;
+}
+
+/// Notes the sections that areas do not have, and those without their material.
 void NoteSections(Conversion& run, const std::unordered_set<Text>& namesInUse) {
-  std::unordered_set<Text> settled;  // names of which areas have a section with its material
-  for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Walk()) {
+  const auto& materials = run.Source.Rows<T_MTGN_D>();
+  const auto taken = SectionsByName(run.Source);
+  for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Entries()) {
     if (!namesInUse.contains(section.Section)) {
       if (section.AreaType == kAxisymmetric) {
         run.Accounts.Note<T_ASPR_D>(key, "property-not-used");
       }
-    } else if (settled.contains(section.Section)) {
+      continue;
+    }
+    const auto ofName = taken.find(section.Section);
+    if (ofName != taken.end() && ofName->second != key) {
       run.Accounts.Note<T_ASPR_D>(key, "area-section-of-same-name");
-    } else if (KnownMaterial(run.Source, section.Material)) {
-      settled.insert(section.Section);
+    } else if (!materials.FirstWith<&T_MTGN_D::Material>(section.Material)) {
+      run.Accounts.Note<T_ASPR_D>(key, "area-material-unknown");
     }
   }
 }

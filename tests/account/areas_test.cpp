@@ -110,12 +110,12 @@ TEST(AccountOfAreas, OfTwoSectionsOfANameTheOneThatTheWalkMeetsLaterIsChanged) {
   EXPECT_EQ(run.Rows.Losses[0].Position, 1U);
 }
 
-TEST(AccountOfAreas, ASectionWhoseNamesakeHasNoKnownMaterialIsTaken) {
+TEST(AccountOfAreas, OfTwoSectionsOfANameTheOneOfAnUnknownMaterialIsChanged) {
   const AccountRun run = KeepAccountOfAreas(
       kWall, kWallIsASlab,
       std::string(kSlab) +
           "   Section=SLAB   Material=C99   AreaType=Shell   Type=Shell-Thin   Thickness=0.1\n");
-  ASSERT_THAT(run.Losses(), ElementsAre("Section=SLAB: area-material-unknown"));
+  ASSERT_THAT(run.Losses(), ElementsAre("Section=SLAB: area-section-of-same-name"));
   EXPECT_EQ(run.Rows.Losses[0].Position, 2U);
 }
 

@@ -12,7 +12,7 @@ namespace {
 struct LinkTables {
   std::string Summary = "   Link=1   LinkType=Linear   LinkJoint=TwoJoint   LinkProp=PAD\n";
   std::string Connectivity = "   Link=1   JointI=1   JointJ=3\n";
-  std::string Further;
+  std::string Further = "";
 };
 
 constexpr const char* kPad = "   Link=PAD   LinkType=Linear   Mass=0   Weight=0\n";
