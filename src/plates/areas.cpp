@@ -290,25 +290,15 @@ bool WriteThicknesses(Conversion& run, LineWriter& out) {
 
 namespace {
 
-void NoteCorners(Conversion& run, std::uint32_t key, const T_CNAR_D& area) {
+void NoteCorners(Conversion& run, const KnownJoints& joints, std::uint32_t key,
+                 const T_CNAR_D& area) {
   const std::array corners = {area.Joint1, area.Joint2, area.Joint3, area.Joint4};
   if (!area.Joint4.empty()) {
-    NoteUnknownJoints<T_CNAR_D>(run, key, corners);
+    joints.NoteUnknown<T_CNAR_D>(key, corners);
     return;
   }
   run.Accounts.Note<T_CNAR_D>(key, "area-of-three-joints");
-  NoteUnknownJoints<T_CNAR_D>(run, key, std::span(corners).first(3));
-}
-
-void NoteAssignments(Conversion& run) {
-  const auto& assignments = run.Source.Rows<T_ASCA_D>();
-  for (const auto [key, row] : assignments.Entries()) {
-    if (!run.Source.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(row.Area)) {
-      run.Accounts.Note<T_ASCA_D>(key, "area-unknown");
-    } else if (!IsTheOneMet<&T_ASCA_D::Area>(assignments, key, row)) {
-      run.Accounts.Note<T_ASCA_D>(key, "row-of-same-name");
-    }
-  }
+  joints.NoteUnknown<T_CNAR_D>(key, std::span(corners).first(3));
 }
 
 /// The key of the section that the areas of each name have: the first of a known material.
@@ -345,14 +335,16 @@ void NoteSections(Conversion& run, const std::unordered_set<Text>& namesInUse) {
 }  // namespace
 
 void CloseAreas(Conversion& run) {
+  const KnownJoints joints(run);
+  MetRows<&T_ASCA_D::Area, T_ASCA_D> assignments(run.Source.Rows<T_ASCA_D>());
   std::unordered_set<Text> namesInUse;
   for (const auto [key, area] : run.Source.Rows<T_CNAR_D>().Entries()) {
-    NoteCorners(run, key, area);
-    if (const auto found = run.Source.Rows<T_ASCA_D>().FirstWith<&T_ASCA_D::Area>(area.Area)) {
+    NoteCorners(run, joints, key, area);
+    if (const auto found = assignments.Of(area.Area)) {
       namesInUse.insert(found->Value.Section);
     }
   }
-  NoteAssignments(run);
+  assignments.NoteOthers(run, "area-unknown");
   NoteSections(run, namesInUse);
 }
 

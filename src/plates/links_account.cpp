@@ -61,15 +61,16 @@ bool HasProperty(Conversion& run, const T_SMLA_D& link) {
 }
 
 using Names = std::unordered_set<Text>;
+using Ends = MetRows<&T_CNLK_D::Link, T_CNLK_D>;
 
 /// Notes the links of the summary; enters the properties of elastic links.
-void NoteLinks(Conversion& run, Names& elastic) {
+void NoteLinks(Conversion& run, Ends& ends, Names& elastic) {
   for (const auto [key, link] : run.Source.Rows<T_SMLA_D>().Entries()) {
     if (const auto loss = LossOf(run.Source, link)) {
       run.Accounts.Note<T_SMLA_D>(key, *loss);
       continue;
     }
-    if (!run.Source.Rows<T_CNLK_D>().FirstWith<&T_CNLK_D::Link>(link.Link)) {
+    if (!ends.Of(link.Link)) {
       run.Accounts.Note<T_SMLA_D>(key, "link-without-joints");
     }
     if (link.LocalAxes && !run.Source.Rows<T_LLCT_D>().FirstWith<&T_LLCT_D::Link>(link.Link)) {
@@ -84,48 +85,60 @@ void NoteLinks(Conversion& run, Names& elastic) {
   }
 }
 
-/// Goes through the rows that name links. Those of which another one is met, and those of links
-/// that are not written, are noted; `note` is called for the others.
+/// Notes a row of which another one is met, and one of a link that is not written; `note` is called
+/// for any other.
 template <class Row, class NoteFurther>
-void NoteRowsOfLinks(Conversion& run, NoteFurther note) {
-  const auto& rows = run.Source.Rows<Row>();
-  for (const auto [key, row] : rows.Entries()) {
-    if (!IsTheOneMet<&Row::Link>(rows, key, row)) {
-      run.Accounts.Note<Row>(key, "row-of-same-name");
-      continue;
-    }
-    const LinksOfLabel links = LinksOf(run.Source, row.Link);
-    if (links.Loss) {
-      run.Accounts.Note<Row>(key, *links.Loss);
+void NoteRowOfLink(Conversion& run, std::uint32_t key, const Row& row, NoteFurther note) {
+  if (!IsTheOneMet<&Row::Link>(run.Source.Rows<Row>(), key, row)) {
+    run.Accounts.Note<Row>(key, "row-of-same-name");
+    return;
+  }
+  const LinksOfLabel links = LinksOf(run.Source, row.Link);
+  if (links.Loss) {
+    run.Accounts.Note<Row>(key, *links.Loss);
+  } else {
+    note(links.LocalAxes);
+  }
+}
+
+void NoteEnds(Conversion& run, const Ends& ends) {
+  const KnownJoints joints(run);
+  for (const auto [key, row] : run.Source.Rows<T_CNLK_D>().Entries()) {
+    if (ends.IsMet(key)) {
+      joints.NoteUnknown<T_CNLK_D>(key, std::array{row.JointI, row.JointJ});
     } else {
-      note(key, row, links.LocalAxes);
+      NoteRowOfLink(run, key, row, [](bool) {});
     }
   }
 }
 
-void NoteEnds(Conversion& run) {
-  NoteRowsOfLinks<T_CNLK_D>(run, [&](std::uint32_t key, const T_CNLK_D& row, bool) {
-    NoteUnknownJoints<T_CNLK_D>(run, key, std::array{row.JointI, row.JointJ});
-  });
+void NoteTypicalAxes(Conversion& run, std::uint32_t key, const T_LLCT_D& row, bool isAskedFor) {
+  const bool saysNothing = !IsAboveTolerance(row.Angle) && !row.AdvanceAxes;
+  if (!isAskedFor && !saysNothing) {
+    run.Accounts.Note<T_LLCT_D>(key, "link-axes-not-asked-for");
+  } else if (row.AdvanceAxes && !run.Source.Rows<T_LLCA_D>().FirstWith<&T_LLCA_D::Link>(row.Link)) {
+    run.Accounts.Note<T_LLCT_D>(key, "link-axes-missing");
+  }
+}
+
+void NoteAdvancedAxes(Conversion& run, std::uint32_t key, const T_LLCA_D& row, bool isAskedFor) {
+  const auto typical = run.Source.Rows<T_LLCT_D>().FirstWith<&T_LLCT_D::Link>(row.Link);
+  const bool isRead = isAskedFor && typical && typical->Value.AdvanceAxes;
+  run.Accounts.Note<T_LLCA_D>(key,
+                              isRead ? Why("link-advanced-axes") : Why("link-axes-not-asked-for"));
 }
 
 void NoteAxes(Conversion& run) {
-  const auto& typical = run.Source.Rows<T_LLCT_D>();
-  const auto& advanced = run.Source.Rows<T_LLCA_D>();
-  NoteRowsOfLinks<T_LLCT_D>(run, [&](std::uint32_t key, const T_LLCT_D& row, bool isAskedFor) {
-    const bool saysNothing = !IsAboveTolerance(row.Angle) && !row.AdvanceAxes;
-    if (!isAskedFor && !saysNothing) {
-      run.Accounts.Note<T_LLCT_D>(key, "link-axes-not-asked-for");
-    } else if (row.AdvanceAxes && !advanced.FirstWith<&T_LLCA_D::Link>(row.Link)) {
-      run.Accounts.Note<T_LLCT_D>(key, "link-axes-missing");
-    }
-  });
-  NoteRowsOfLinks<T_LLCA_D>(run, [&](std::uint32_t key, const T_LLCA_D& row, bool isAskedFor) {
-    const auto angle = typical.FirstWith<&T_LLCT_D::Link>(row.Link);
-    const bool isRead = isAskedFor && angle && angle->Value.AdvanceAxes;
-    run.Accounts.Note<T_LLCA_D>(
-        key, isRead ? Why("link-advanced-axes") : Why("link-axes-not-asked-for"));
-  });
+  for (const auto entry : run.Source.Rows<T_LLCT_D>().Entries()) {
+    NoteRowOfLink(run, entry.Key, entry.Value, [&](bool isAskedFor) {
+      NoteTypicalAxes(run, entry.Key, entry.Value, isAskedFor);
+    });
+  }
+  for (const auto entry : run.Source.Rows<T_LLCA_D>().Entries()) {
+    NoteRowOfLink(run, entry.Key, entry.Value, [&](bool isAskedFor) {
+      NoteAdvancedAxes(run, entry.Key, entry.Value, isAskedFor);
+    });
+  }
 }
 
 void NoteProperties(Conversion& run, const Names& elastic) {
@@ -168,9 +181,10 @@ void CloseLinks(Conversion& run) {
     return;
   }
   NoteAll<T_LPAN_D>(run, "link-assignment-in-summary");
+  Ends ends(run.Source.Rows<T_CNLK_D>());
   Names elastic;
-  NoteLinks(run, elastic);
-  NoteEnds(run);
+  NoteLinks(run, ends, elastic);
+  NoteEnds(run, ends);
   NoteAxes(run);
   NoteProperties(run, elastic);
 }

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "common/keyed_table.h"
-#include "joints/nodes.h"
 #include "target/conversion.h"
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
+#include <vector>
 
 namespace s2k2ngt {
 
-// Questions that the accounts of areas, solids, links and their loads have in common.
+// Questions that the accounts of areas, solids and links have in common.
 
 /// True when a search for the row's name meets this row, and not another one of the name.
 template <auto Name, class Record>
@@ -18,16 +19,62 @@ bool IsTheOneMet(const CKeyedTable<Record>& rows, std::uint32_t key, const Recor
   return rows.template FirstWith<Name>(std::invoke(Name, row))->Key == key;
 }
 
-/// Notes of an element of which a joint is not there that it has no node in its place.
-template <class Element>
-void NoteUnknownJoints(Conversion& run, std::uint32_t key, std::span<const Text> joints) {
-  const auto& known = run.Source.Rows<T_JTCD_D>();
-  for (const Text joint : joints) {
-    if (!known.FirstWith<&T_JTCD_D::Joint>(joint)) {
-      run.Accounts.Note<Element>(key, "end-or-corner-unknown");
-      return;
+/// The rows that a search for each element meets; `Element` names the element of a row.
+template <auto Element, class Row>
+class MetRows {
+ public:
+  explicit MetRows(const CKeyedTable<Row>& rows) : m_Rows(rows), m_IsMet(rows.Count() + 1) {}
+
+  auto Of(Text element) {
+    const auto found = m_Rows.template FirstWith<Element>(element);
+    if (found) {
+      m_IsMet[found->Key] = true;
+    }
+    return found;
+  }
+
+  bool IsMet(std::uint32_t key) const { return m_IsMet[key]; }
+
+  /// Notes the rows that none of the searches has met: those of elements that are not there, and
+  /// those of which another row is met.
+  void NoteOthers(Conversion& run, Why elementUnknown) const {
+    for (const auto [key, row] : m_Rows.Entries()) {
+      if (!m_IsMet[key]) {
+        const auto met = m_Rows.template FirstWith<Element>(std::invoke(Element, row));
+        run.Accounts.Note<Row>(key, m_IsMet[met->Key] ? Why("row-of-same-name") : elementUnknown);
+      }
     }
   }
-}
+
+ private:
+  const CKeyedTable<Row>& m_Rows;
+  std::vector<bool> m_IsMet;  // by key
+};
+
+/// Which joints the model has.
+class KnownJoints {
+ public:
+  explicit KnownJoints(Conversion& run);
+
+  bool Has(Text joint) const;
+
+  /// Notes of an element of which a joint is not there that it has no node in its place.
+  template <class Element>
+  void NoteUnknown(std::uint32_t key, std::span<const Text> joints) const {
+    for (const Text joint : joints) {
+      if (!Has(joint)) {
+        m_Run.Accounts.Note<Element>(key, "end-or-corner-unknown");
+        return;
+      }
+    }
+  }
+
+ private:
+  /// The number of a label, if it is one that the set has room for.
+  std::optional<std::size_t> NumberOf(Text joint) const;
+
+  Conversion& m_Run;
+  std::vector<bool> m_HasNumber;  // by number, of labels that are small numbers; else empty
+};
 
 }  // namespace s2k2ngt

@@ -113,24 +113,14 @@ void WriteSolidElements(Conversion& run, LineWriter& out) {
 
 namespace {
 
-void NoteSolid(Conversion& run, std::uint32_t key, const T_CNSL_D& solid) {
+void NoteSolid(Conversion& run, const KnownJoints& joints, std::uint32_t key,
+               const T_CNSL_D& solid) {
   const std::array<Text, 8> corners = JointsOf(solid);
   const bool isWedge = solid.Joint7.empty() && solid.Joint8.empty();
-  NoteUnknownJoints<T_CNSL_D>(run, key, std::span(corners).first(isWedge ? 6 : 8));
+  joints.NoteUnknown<T_CNSL_D>(key, std::span(corners).first(isWedge ? 6 : 8));
   if (!run.Elements.Renumbered() &&
       run.Source.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(solid.Solid)) {
     run.Accounts.Note<T_CNSL_D>(key, "element-number-shared");
-  }
-}
-
-void NoteAssignments(Conversion& run) {
-  const auto& assignments = run.Source.Rows<T_SLPA_D>();
-  for (const auto [key, row] : assignments.Entries()) {
-    if (!run.Source.Rows<T_CNSL_D>().FirstWith<&T_CNSL_D::Solid>(row.Solid)) {
-      run.Accounts.Note<T_SLPA_D>(key, "solid-unknown");
-    } else if (!IsTheOneMet<&T_SLPA_D::Solid>(assignments, key, row)) {
-      run.Accounts.Note<T_SLPA_D>(key, "row-of-same-name");
-    }
   }
 }
 
@@ -148,14 +138,16 @@ void NoteProperties(Conversion& run, const std::unordered_set<Text>& namesInUse)
 }  // namespace
 
 void CloseSolids(Conversion& run) {
+  const KnownJoints joints(run);
+  MetRows<&T_SLPA_D::Solid, T_SLPA_D> assignments(run.Source.Rows<T_SLPA_D>());
   std::unordered_set<Text> namesInUse;
   for (const auto [key, solid] : run.Source.Rows<T_CNSL_D>().Entries()) {
-    NoteSolid(run, key, solid);
-    if (const auto found = run.Source.Rows<T_SLPA_D>().FirstWith<&T_SLPA_D::Solid>(solid.Solid)) {
+    NoteSolid(run, joints, key, solid);
+    if (const auto found = assignments.Of(solid.Solid)) {
       namesInUse.insert(found->Value.SolidProp);
     }
   }
-  NoteAssignments(run);
+  assignments.NoteOthers(run, "solid-unknown");
   NoteProperties(run, namesInUse);
   run.Accounts.NoteAll<T_SLAM_D>("table-not-read");
   run.Accounts.NoteAll<T_SLPT_D>("table-not-read");
