@@ -10,7 +10,6 @@
 #include <cmath>
 #include <optional>
 #include <unordered_map>
-#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -313,11 +312,11 @@ std::unordered_map<Text, std::uint32_t> SectionsByName(CModel& model) {
 }
 
 /// Notes the sections that areas do not have, and those without their material.
-void NoteSections(Conversion& run, const std::unordered_set<Text>& namesInUse) {
+void NoteSections(Conversion& run, NamesInUse& namesInUse) {
   const auto& materials = run.Source.Rows<T_MTGN_D>();
   const auto taken = SectionsByName(run.Source);
   for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Entries()) {
-    if (!namesInUse.contains(section.Section)) {
+    if (!namesInUse.Has(section.Section)) {
       if (section.AreaType == kAxisymmetric) {
         run.Accounts.Note<T_ASPR_D>(key, "property-not-used");
       }
@@ -337,11 +336,11 @@ void NoteSections(Conversion& run, const std::unordered_set<Text>& namesInUse) {
 void CloseAreas(Conversion& run) {
   const KnownJoints joints(run);
   MetRows<&T_ASCA_D::Area, T_ASCA_D> assignments(run.Source.Rows<T_ASCA_D>());
-  std::unordered_set<Text> namesInUse;
+  NamesInUse namesInUse;
   for (const auto [key, area] : run.Source.Rows<T_CNAR_D>().Entries()) {
     NoteCorners(run, joints, key, area);
     if (const auto found = assignments.Of(area.Area)) {
-      namesInUse.insert(found->Value.Section);
+      namesInUse.Add(found->Value.Section);
     }
   }
   assignments.NoteOthers(run, "area-unknown");

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <optional>
-#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -55,16 +54,15 @@ bool HasProperty(Conversion& run, const T_SMLA_D& link) {
            run.Target.Table<T_NGT_NLPR_D>().FirstWith<&T_NGT_NLPR_D::NAME>(link.LinkProp);
   }
   // A property of a link that moves freely has no rows of directions.
-  return run.Source.Rows<T_LPLN_D>().FirstWith<&T_LPLN_D::Link>(link.LinkProp) ||
+  return !run.Source.Rows<T_LPLN_D>().AllWith<&T_LPLN_D::Link>(link.LinkProp).empty() ||
          run.Source.Rows<T_LPGN_D>().FirstWith<&NameAndKind>(
              QualifiedLabel{link.LinkProp, kLinearLink});
 }
 
-using Names = std::unordered_set<Text>;
 using Ends = MetRows<&T_CNLK_D::Link, T_CNLK_D>;
 
 /// Notes the links of the summary; enters the properties of elastic links.
-void NoteLinks(Conversion& run, Ends& ends, Names& elastic) {
+void NoteLinks(Conversion& run, Ends& ends, NamesInUse& elastic) {
   for (const auto [key, link] : run.Source.Rows<T_SMLA_D>().Entries()) {
     if (const auto loss = LossOf(run.Source, link)) {
       run.Accounts.Note<T_SMLA_D>(key, *loss);
@@ -80,7 +78,7 @@ void NoteLinks(Conversion& run, Ends& ends, Names& elastic) {
       run.Accounts.Note<T_SMLA_D>(key, "link-property-unknown");
     }
     if (link.LinkType == kLinearLink) {
-      elastic.insert(link.LinkProp);
+      elastic.Add(link.LinkProp);
     }
   }
 }
@@ -141,7 +139,7 @@ void NoteAxes(Conversion& run) {
   }
 }
 
-void NoteProperties(Conversion& run, const Names& elastic) {
+void NoteProperties(Conversion& run, NamesInUse& elastic) {
   for (const auto [key, property] : run.Source.Rows<T_LPGN_D>().Entries()) {
     if (IsLostKind(property.LinkType)) {
       run.Accounts.Note<T_LPGN_D>(key, "link-kind-unlike");
@@ -150,7 +148,7 @@ void NoteProperties(Conversion& run, const Names& elastic) {
     }
   }
   for (const auto [key, direction] : run.Source.Rows<T_LPLN_D>().Entries()) {
-    if (!elastic.contains(direction.Link)) {
+    if (!elastic.Has(direction.Link)) {
       run.Accounts.Note<T_LPLN_D>(key, "property-not-used");
     }
   }
@@ -182,7 +180,7 @@ void CloseLinks(Conversion& run) {
   }
   NoteAll<T_LPAN_D>(run, "link-assignment-in-summary");
   Ends ends(run.Source.Rows<T_CNLK_D>());
-  Names elastic;
+  NamesInUse elastic;
   NoteLinks(run, ends, elastic);
   NoteEnds(run, ends);
   NoteAxes(run);

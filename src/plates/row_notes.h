@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/keyed_table.h"
+#include "common/value_map.h"
 #include "target/conversion.h"
 
 #include <cstdint>
@@ -49,6 +50,16 @@ class MetRows {
  private:
   const CKeyedTable<Row>& m_Rows;
   std::vector<bool> m_IsMet;  // by key
+};
+
+/// Names of sections and properties that elements have.
+class NamesInUse {
+ public:
+  void Add(Text name) { m_AreUsed.Meet(name).Result = true; }
+  bool Has(Text name) { return m_AreUsed.Meet(name).Result; }
+
+ private:
+  ValueMap<Text, bool> m_AreUsed;
 };
 
 /// Which joints the model has.

@@ -6,7 +6,6 @@
 #include "plates/row_notes.h"
 
 #include <span>
-#include <unordered_set>
 
 namespace s2k2ngt {
 
@@ -124,12 +123,12 @@ void NoteSolid(Conversion& run, const KnownJoints& joints, std::uint32_t key,
   }
 }
 
-void NoteProperties(Conversion& run, const std::unordered_set<Text>& namesInUse) {
+void NoteProperties(Conversion& run, NamesInUse& namesInUse) {
   const auto& properties = run.Source.Rows<T_SLPD_D>();
   for (const auto [key, property] : properties.Entries()) {
     if (!IsTheOneMet<&T_SLPD_D::SolidProp>(properties, key, property)) {
       run.Accounts.Note<T_SLPD_D>(key, "row-of-same-name");
-    } else if (!namesInUse.contains(property.SolidProp)) {
+    } else if (!namesInUse.Has(property.SolidProp)) {
       run.Accounts.Note<T_SLPD_D>(key, "property-not-used");
     }
   }
@@ -140,11 +139,11 @@ void NoteProperties(Conversion& run, const std::unordered_set<Text>& namesInUse)
 void CloseSolids(Conversion& run) {
   const KnownJoints joints(run);
   MetRows<&T_SLPA_D::Solid, T_SLPA_D> assignments(run.Source.Rows<T_SLPA_D>());
-  std::unordered_set<Text> namesInUse;
+  NamesInUse namesInUse;
   for (const auto [key, solid] : run.Source.Rows<T_CNSL_D>().Entries()) {
     NoteSolid(run, joints, key, solid);
     if (const auto found = assignments.Of(solid.Solid)) {
-      namesInUse.insert(found->Value.SolidProp);
+      namesInUse.Add(found->Value.SolidProp);
     }
   }
   assignments.NoteOthers(run, "solid-unknown");
