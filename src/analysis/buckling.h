@@ -32,6 +32,9 @@ struct T_BKL2_D {
   Text LoadType = "Load case";
   Text LoadName;
   double LoadSF = 1.0;
+
+  /// False for an acceleration and the like.
+  bool IsLoadCase() const { return LoadType == "Load case"; }
 };
 
 template <>
@@ -51,6 +54,7 @@ struct BucklingLoad {
 
 /// Buckling control.
 struct T_NGT_BKCT_D {
+  Text Case;  // the source case
   std::int32_t iMODENUM = 1;
   double TOL = 0.001;
   std::vector<BucklingLoad> Loads;
@@ -68,5 +72,10 @@ void ConvertBucklingCase(Conversion& run, Text analysisCase);
 /// Writes *BUCK-CTRL. Meant so: its two closing newlines stand in every output, whether or not
 /// there is a buckling case.
 bool WriteBucklingControl(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes the definitions and loads of buckling cases that do not go over as they stand.
+void CloseBuckling(Conversion& run);
 
 }  // namespace s2k2ngt

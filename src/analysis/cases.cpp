@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace s2k2ngt {
 
@@ -57,23 +58,106 @@ void ConvertBuckling(CaseWalk& walk, const T_ANAL_D& analysis) {
   ConvertBucklingCase(walk.Run, analysis.Case);
 }
 
+/// Why an analysis case of a kind does not go over as it stands; nothing if it does.
+using Lost = std::optional<Why>;
+
+Lost WhyStaticIsLost(Conversion& run, const T_ANAL_D& analysis) {
+  const auto& loads = run.Source.Rows<T_STC1_D>();
+  const auto ofCase = loads.AllWith<&T_STC1_D::Case>(analysis.Case);
+  if (ofCase.empty()) {
+    return Why("case-without-loads");
+  }
+  if (ofCase.size() > 1) {
+    return Why("static-case-of-several-loads");
+  }
+  const bool bearsItsName = loads.AtWalk(ofCase.front()).Value.LoadName == analysis.Case;
+  return bearsItsName ? Lost() : Why("static-case-named-otherwise");
+}
+
+Lost WhyModalIsLost(Conversion& run, const T_ANAL_D& analysis) {
+  const T_MDL1_D* const definition = run.Source.Rows<T_MDL1_D>().Find(1);
+  if (definition == nullptr) {
+    return Why("case-without-definition");
+  }
+  if (analysis.Case == definition->Case) {
+    return {};
+  }
+  return IsAnalysed(run, definition->Case, kModal) ? Why("definition-not-first")
+                                                   : Why("definition-of-another-case");
+}
+
+Lost WhySpectrumIsLost(Conversion& run, const T_ANAL_D& analysis) {
+  if (run.Source.Rows<T_RSP1_D>().Empty()) {
+    return Why("case-without-definition");
+  }
+  const auto& loads = run.Target.Table<T_NGT_SPLC_D>();
+  return loads.FirstWith<&T_NGT_SPLC_D::CASE>(analysis.Case) ? Lost() : Why("case-without-loads");
+}
+
+template <class Definition>
+Lost WhyHistoryCaseIsLost(Conversion& run, const T_ANAL_D& analysis) {
+  if (run.Target.Table<T_NGT_THLC_D>().FirstWith<&T_NGT_THLC_D::NAME>(analysis.Case)) {
+    return analysis.InitialCond.empty() ? Why("value-not-stated") : Lost();
+  }
+  const bool isDefined = run.Source.Rows<Definition>()
+                             .template FirstWith<&Definition::Case>(analysis.Case)
+                             .has_value();
+  return isDefined ? Why("case-not-converted") : Why("case-without-definition");
+}
+
+Lost WhyMovingIsLost(Conversion& run, const T_ANAL_D& analysis) {
+  const auto& loads = run.Target.Table<T_NGT_MVLC_D>();
+  const auto keys = loads.KeysWith<&T_NGT_MVLC_D::NAME>(analysis.Case);
+  // Keys beyond the count are not written.
+  const bool isWritten = !keys.empty() && keys.front() <= loads.Count();
+  return isWritten ? Lost() : Why("case-not-converted");
+}
+
+Lost WhyBucklingIsLost(Conversion& run, const T_ANAL_D& analysis) {
+  const auto& definitions = run.Source.Rows<T_BKL1_D>();
+  const auto& control = run.Target.Control<T_NGT_BKCT_D>();
+  if (definitions.Empty()) {
+    return Why("case-without-definition");
+  }
+  if (!control.bWrite) {
+    return Why("case-without-loads");
+  }
+  if (control.Case != analysis.Case) {
+    return Why("definition-not-first");
+  }
+  return definitions.FirstWith<&T_BKL1_D::Case>(analysis.Case) ? Lost() : Why("value-not-stated");
+}
+
 /// A kind of analysis case.
 struct Kind {
   Text Type;
   void (*Convert)(CaseWalk& walk, const T_ANAL_D& analysis);
+  Lost (*WhyLost)(Conversion& run, const T_ANAL_D& analysis);
+  /// Whether it starts where its initial condition says; others start unstressed.
+  bool HasInitialCondition = false;
 };
 
 constexpr std::array kKinds = std::to_array<Kind>({
-    {"LinStatic", ConvertLinearStatic},
-    {"LinModal", ConvertModal},
-    {"LinRespSpec", ConvertResponseSpectrum},
-    {"LinModHist", ConvertModalHistory<Linearity::Linear>},
-    {"NonModHist", ConvertModalHistory<Linearity::Nonlinear>},
-    {"LinDirHis", ConvertDirectHistory<Linearity::Linear>},  // the source's word, without a last t
-    {"NonDirHist", ConvertDirectHistory<Linearity::Nonlinear>},
-    {"LinMoving", ConvertMovingLoad},
-    {"LinBuckling", ConvertBuckling},
+    {kLinearStatic, ConvertLinearStatic, WhyStaticIsLost},
+    {kModal, ConvertModal, WhyModalIsLost},
+    {kResponseSpectrum, ConvertResponseSpectrum, WhySpectrumIsLost},
+    {kLinearModalHistory, ConvertModalHistory<Linearity::Linear>, WhyHistoryCaseIsLost<T_MDH1_D>,
+     true},
+    {kNonlinearModalHistory, ConvertModalHistory<Linearity::Nonlinear>,
+     WhyHistoryCaseIsLost<T_MDH1_D>, true},
+    {kLinearDirectHistory, ConvertDirectHistory<Linearity::Linear>, WhyHistoryCaseIsLost<T_DRH1_D>,
+     true},
+    {kNonlinearDirectHistory, ConvertDirectHistory<Linearity::Nonlinear>,
+     WhyHistoryCaseIsLost<T_DRH1_D>, true},
+    {kMovingLoad, ConvertMovingLoad, WhyMovingIsLost},
+    {kBuckling, ConvertBuckling, WhyBucklingIsLost},
 });
+
+/// The kind of an analysis case; null for one that is passed over.
+const Kind* KindOf(const T_ANAL_D& analysis) {
+  const auto* const kind = std::ranges::find(kKinds, analysis.Type, &Kind::Type);
+  return kind == kKinds.end() ? nullptr : kind;
+}
 
 }  // namespace
 
@@ -84,13 +168,37 @@ bool ConvertAnalysisCases(Conversion& run) {
   }
   CaseWalk walk{run, {}, {}};
   for (const auto [key, analysis] : analyses.Walk()) {
-    const auto* const kind = std::ranges::find(kKinds, analysis.Type, &Kind::Type);
-    if (kind != kKinds.end()) {
+    if (const Kind* const kind = KindOf(analysis)) {
       kind->Convert(walk, analysis);
     }
   }
   ConvertStructure(run);
   return true;
+}
+
+// ---- Account ----
+
+bool IsAnalysed(Conversion& run, Text name, Text type) {
+  return run.Source.Rows<T_ANAL_D>()
+      .FirstWith<&T_ANAL_D::CaseOfType>(QualifiedLabel{name, type})
+      .has_value();
+}
+
+void CloseAnalysisCases(Conversion& run) {
+  for (const auto [key, analysis] : run.Source.Rows<T_ANAL_D>().Entries()) {
+    const Kind* const kind = KindOf(analysis);
+    if (kind == nullptr) {
+      run.Accounts.Note<T_ANAL_D>(key, "analysis-case-of-other-kind");
+      continue;
+    }
+    if (const Lost why = kind->WhyLost(run, analysis)) {
+      run.Accounts.Note<T_ANAL_D>(key, *why);
+    }
+    if (!kind->HasInitialCondition && !analysis.InitialCond.empty() &&
+        analysis.InitialCond != kStartsUnstressed) {
+      run.Accounts.Note<T_ANAL_D>(key, "initial-condition-lost");
+    }
+  }
 }
 
 }  // namespace s2k2ngt

@@ -61,4 +61,9 @@ bool ConvertCombinations(Conversion& run);
 /// Writes *LOADCOMB.
 bool WriteCombinations(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes the terms of combinations that do not go over as they stand.
+void CloseCombinations(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -1,5 +1,6 @@
 #include "analysis/history_damping.h"
 
+#include "analysis/time_history.h"
 #include "common/numbers.h"
 #include "target/wrapped_list.h"
 
@@ -64,17 +65,28 @@ DampingValues ValuesByPoints(const ProportionalDamping& row, double point1, doub
   return values;
 }
 
+constexpr Text kByFactors = "Direct";
+constexpr Text kByPeriods = "Period";
+constexpr Text kByFrequencies = "Frequency";
+
 DampingValues ValuesOf(const ProportionalDamping& row) {
-  if (row.SpecifyType == "Direct") {
+  if (row.SpecifyType == kByFactors) {
     return ValuesByFactors(row);
   }
-  if (row.SpecifyType == "Period") {
+  if (row.SpecifyType == kByPeriods) {
     return ValuesByPoints(row, row.Period1, row.Period2);
   }
-  if (row.SpecifyType == "Frequency") {
+  if (row.SpecifyType == kByFrequencies) {
     return ValuesByPoints(row, row.Frequency1, row.Frequency2);
   }
   return {};
+}
+
+/// The values of a case, by its row of this kind of record.
+template <std::derived_from<ProportionalDamping> Record>
+DampingValues ValuesOfCase(CModel& source, Text name) {
+  const auto row = source.Rows<Record>().template FirstWith<&Record::Case>(name);
+  return row ? ValuesOf(row->Value) : DampingValues{};
 }
 
 /// Stores a value that is there; a slot without one stays as it is.
@@ -95,20 +107,21 @@ void StorePoints(const DampingValues& values, std::int32_t calculation, HistoryD
   Store(values.Fourth, damping.DR2);
 }
 
+bool HasAny(const DampingValues& values) { return values.Mass || values.Stiffness; }
+
 /// Sets what damps. False when nothing does.
 bool StoreUse(const DampingValues& values, HistoryDamping& damping) {
   damping.iMDTYPE = 2;
   damping.bMASSP = values.Mass ? "YES" : "NO";
   damping.bSTIFFP = values.Stiffness ? "YES" : "NO";
-  return values.Mass || values.Stiffness;
+  return HasAny(values);
 }
 
 }  // namespace
 
 bool ConvertModalDamping(CModel& source, Text name, ProportionalKind kind,
                          HistoryDamping& damping) {
-  const auto row = source.Rows<T_MDH4_D>().FirstWith<&T_MDH4_D::Case>(name);
-  const DampingValues values = row ? ValuesOf(row->Value) : DampingValues{};
+  const DampingValues values = ValuesOfCase<T_MDH4_D>(source, name);
   if (kind == ProportionalKind::Factors) {
     StoreFactors(values, damping);
   } else {
@@ -124,14 +137,21 @@ bool ConvertDirectDamping(CModel& source, Text name, HistoryDamping& damping) {
   if (!StoreUse(values, damping)) {
     return false;
   }
-  if (row->Value.SpecifyType == "Direct") {
+  if (row->Value.SpecifyType == kByFactors) {
     StoreFactors(values, damping);
   } else {
     // Meant so: the other way round than in a modal case.
-    StorePoints(values, row->Value.SpecifyType == "Period" ? 1 : 2, damping);
+    StorePoints(values, row->Value.SpecifyType == kByPeriods ? 1 : 2, damping);
   }
   return true;
 }
+
+template <std::derived_from<ProportionalDamping> Record>
+bool HasProportionalDamping(CModel& source, Text name) {
+  return HasAny(ValuesOfCase<Record>(source, name));
+}
+template bool HasProportionalDamping<T_MDH4_D>(CModel& source, Text name);
+template bool HasProportionalDamping<T_DRH3_D>(CModel& source, Text name);
 
 // ---- Output ----
 
@@ -177,6 +197,83 @@ void WriteModeDampings(LineWriter& out, const HistoryDamping& damping) {
     const ModeDamping& mode = damping.Modes[index];
     out.WriteLine("%s%5d, %5g", SeparatorBefore(index, 3, "\n\t\t"), mode.iMODE, mode.DAMPING);
   }
+}
+
+// ---- Account ----
+
+namespace {
+
+/// Why a row of proportional damping does not damp its case; nothing if it does.
+template <std::derived_from<ProportionalDamping> Record, class Definition>
+std::optional<Why> WhyDampingIsLost(Conversion& run, std::uint32_t key, const Record& row) {
+  if (!IsHistoryAnalysed<Definition>(run, row.Case)) {
+    return Why("analysis-case-missing");
+  }
+  if (run.Source.Rows<Record>().template FirstWith<&Record::Case>(row.Case)->Key != key) {
+    return Why("case-defined-again");
+  }
+  if (!HasAny(ValuesOf(row))) {
+    return Why("damping-without-values");
+  }
+  return WhyHistoryIsLost<Definition>(run, row.Case);
+}
+
+/// The word for its damping that the first definition of a modal case states.
+Text DampingTypeOf(Conversion& run, Text name) {
+  const auto definition = run.Source.Rows<T_MDH1_D>().FirstWith<&T_MDH1_D::Case>(name);
+  return definition ? definition->Value.DampingType : Text();
+}
+
+/// The kind of proportional damping by the words of a row.
+std::optional<ProportionalKind> KindOf(const ProportionalDamping& row) {
+  if (row.SpecifyType == kByFactors) {
+    return ProportionalKind::Factors;
+  }
+  return row.SpecifyType == kByPeriods ? ProportionalKind::Periods : ProportionalKind::Frequencies;
+}
+
+void CloseModalProportional(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_MDH4_D>().Entries()) {
+    const Text type = DampingTypeOf(run, row.Case);
+    if (type == kConstantDamping) {
+      run.Accounts.Note<T_MDH4_D>(key, "no-part-in-its-case");
+    } else if (const auto why = WhyDampingIsLost<T_MDH4_D, T_MDH1_D>(run, key, row)) {
+      run.Accounts.Note<T_MDH4_D>(key, *why);
+    } else if (ProportionalKindOf(type) != KindOf(row)) {
+      run.Accounts.Note<T_MDH4_D>(key, "damping-type-differs");
+    } else if (row.SpecifyType != kByFactors) {
+      run.Accounts.Note<T_MDH4_D>(key, "damping-of-two-points");
+    }
+  }
+}
+
+void CloseDirectProportional(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_DRH3_D>().Entries()) {
+    if (const auto why = WhyDampingIsLost<T_DRH3_D, T_DRH1_D>(run, key, row)) {
+      run.Accounts.Note<T_DRH3_D>(key, *why);
+    } else if (row.SpecifyType != kByFactors) {
+      run.Accounts.Note<T_DRH3_D>(key, "damping-of-two-points");
+    }
+  }
+}
+
+void CloseModeDampings(Conversion& run) {
+  for (const auto [key, mode] : run.Source.Rows<T_MDH5_D>().Entries()) {
+    if (const auto why = WhyHistoryIsLost<T_MDH1_D>(run, mode.Case)) {
+      run.Accounts.Note<T_MDH5_D>(key, *why);
+    } else if (DampingTypeOf(run, mode.Case) != kConstantDamping) {
+      run.Accounts.Note<T_MDH5_D>(key, "damping-of-other-kind");
+    }
+  }
+}
+
+}  // namespace
+
+void CloseHistoryDamping(Conversion& run) {
+  run.Accounts.NoteAll<T_MDH3_D>("damping-of-other-kind");
+  CloseModalProportional(run);
+  CloseDirectProportional(run);
+  CloseModeDampings(run);
 }
 
 }  // namespace s2k2ngt

@@ -108,6 +108,10 @@ bool ConvertModalDamping(CModel& source, Text name, ProportionalKind kind, Histo
 /// The same of a direct case, of the kind that the row itself states.
 bool ConvertDirectDamping(CModel& source, Text name, HistoryDamping& damping);
 
+/// True when a case has a factor of mass or stiffness, by its row of this kind of record.
+template <std::derived_from<ProportionalDamping> Record>
+bool HasProportionalDamping(CModel& source, Text name);
+
 // ---- Output ----
 
 /// Writes the damping's places of the third line of a time history.
@@ -115,5 +119,10 @@ void WriteHistoryDamping(LineWriter& out, const HistoryDamping& damping);
 
 /// Writes the dampings of modes behind that line.
 void WriteModeDampings(LineWriter& out, const HistoryDamping& damping);
+
+// ---- Account ----
+
+/// Notes the dampings of history cases that do not go over as they stand.
+void CloseHistoryDamping(Conversion& run);
 
 }  // namespace s2k2ngt

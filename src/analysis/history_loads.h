@@ -66,6 +66,8 @@ struct T_NGT_GRAC_D {
   double ATIMEY = 0.0;
   Text FUNCZ;
   double ATIMEZ = 0.0;
+  std::uint32_t Row = 0;  // its source row, of a modal case or of a direct one
+  bool IsModal = false;
 };
 
 // ---- Conversion ----
@@ -94,5 +96,10 @@ bool WriteGroundAccelerations(Conversion& run, LineWriter& out);
 
 /// Writes *DYN-SLOAD.
 bool WriteTimeVaryingLoads(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes the loads of history cases that do not go over as they stand.
+void CloseHistoryLoads(Conversion& run);
 
 }  // namespace s2k2ngt

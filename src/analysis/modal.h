@@ -80,4 +80,9 @@ void ConvertModalCase(Conversion& run);
 /// Writes *EIGEN-CTRL.
 bool WriteEigenvalueControl(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes the definitions and starting vectors of modal cases that do not go over as they stand.
+void CloseModal(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -14,22 +14,38 @@ namespace s2k2ngt {
 
 namespace {
 
+/// Adds the function of the rows from the first key up to the last.
+template <class Record>
+void AddFunction(Conversion& run, T_NGT_SFNC_D function, std::uint32_t firstKey,
+                 std::uint32_t lastKey) {
+  auto& functions = run.Target.Table<T_NGT_SFNC_D>();
+  if (run.Accounts.IsKept() && functions.FirstWith<&T_NGT_SFNC_D::NAME>(function.NAME)) {
+    for (std::uint32_t key = firstKey; key <= lastKey; ++key) {
+      run.Accounts.Note<Record>(key, "rows-of-name-apart");
+    }
+  }
+  functions.Append(std::move(function));
+}
+
 /// Runs of rows of one name into functions. A name that comes back opens a second function.
 template <std::derived_from<SpectrumPoint> Record>
 void ConvertFunctions(Conversion& run) {
   const auto& rows = run.Source.Rows<Record>();
   const T_NGT_SFNC_D empty{.NAME = {}, .GRAV = GravityInModelUnits(run.Source), .Pairs = {}};
   T_NGT_SFNC_D function = empty;
+  std::uint32_t firstKey = 1;
   for (std::uint32_t key = 1; key <= rows.Count(); ++key) {
     const Record row = RecordOr(rows.Find(key), Record{});
     if (key > 1 && row.Name != function.NAME) {
-      run.Target.Table<T_NGT_SFNC_D>().Append(std::exchange(function, empty));
+      AddFunction<Record>(run, std::exchange(function, empty), firstKey, key - 1);
+      firstKey = key;
     }
     function.NAME = row.Name;
     function.Pairs.push_back({row.Period, row.Accel});
   }
   if (!rows.Empty()) {
-    run.Target.Table<T_NGT_SFNC_D>().Append(std::move(function));
+    AddFunction<Record>(run, std::move(function), firstKey,
+                        static_cast<std::uint32_t>(rows.Count()));
   }
 }
 
@@ -50,6 +66,13 @@ bool ConvertSpectrumFunctions(Conversion& run) {
 }
 
 namespace {
+
+constexpr Text kAlong = "U1";
+constexpr Text kAcross = "U2";
+constexpr Text kUpright = "U3";
+
+/// A load without a scale factor has that of 1.
+bool HasScale(const T_RSP2_D& row) { return std::abs(row.TransAccSF) >= kTolerance; }
 
 /// What subtracting 360 over and over gives for an angle above it: at most 360.
 double WithinFullTurn(double angle) {
@@ -73,10 +96,10 @@ class SpectrumLoads {
       m_Pending.FUNC = row.Function;
     }
     if (!row.LoadName.empty()) {
-      m_Pending.DIR = row.LoadName == "U1" || row.LoadName == "U2" ? "XY" : "Z";
+      m_Pending.DIR = row.LoadName == kAlong || row.LoadName == kAcross ? "XY" : "Z";
     }
-    m_Pending.ANGLE = WithinFullTurn(row.LoadName == "U2" ? row.Angle + 90.0 : row.Angle);
-    m_Pending.SCALE = std::abs(row.TransAccSF) >= kTolerance ? row.TransAccSF : 1.0;
+    m_Pending.ANGLE = WithinFullTurn(row.LoadName == kAcross ? row.Angle + 90.0 : row.Angle);
+    m_Pending.SCALE = HasScale(row) ? row.TransAccSF : 1.0;
     m_PreviousCase = row.Case;
   }
 
@@ -100,26 +123,60 @@ class SpectrumLoads {
   std::int32_t m_Suffix = 0;
 };
 
+/// Notes how the load case of a row differs from the row.
+void NoteSpectrumLoad(Conversion& run, std::uint32_t key, const T_RSP2_D& row) {
+  const auto note = [&](Why why) { run.Accounts.Note<T_RSP2_D>(key, why); };
+  const auto& rows = run.Source.Rows<T_RSP2_D>();
+  if (rows.KeysWith<&T_RSP2_D::Case>(row.Case).size() > 1) {
+    note("spectrum-case-split");
+  } else if (key == rows.Count()) {
+    note("spectrum-case-numbered");
+  }
+  if (row.Function.empty() || row.LoadName.empty()) {
+    note("value-of-row-before");
+  }
+  if (!row.Function.empty() &&
+      !run.Target.Table<T_NGT_SFNC_D>().FirstWith<&T_NGT_SFNC_D::NAME>(row.Function)) {
+    note("spectrum-function-not-written");
+  }
+  if (!row.LoadName.empty() && row.LoadName != kAlong && row.LoadName != kAcross &&
+      row.LoadName != kUpright) {
+    note("ground-direction-unknown");
+  }
+  if (!HasScale(row)) {
+    note("value-not-stated");
+  }
+}
+
 }  // namespace
 
 bool ConvertSpectrumLoads(Conversion& run) {
   const auto& rows = run.Source.Rows<T_RSP2_D>();
   SpectrumLoads loads(run.Target);
+  std::uint32_t inHand = 0;  // the row of the load case in hand
   for (std::uint32_t key = 1; key <= rows.Count(); ++key) {
     const T_RSP2_D row = RecordOr(rows.Find(key), T_RSP2_D{});
     if (row.CoordSys != "GLOBAL") {
       // Meant so: as the last row it takes the load case in hand with it, and as the first it
       // leaves an empty one.
       run.Warnings.bSpectrumLoadLost = true;
+      run.Accounts.Note<T_RSP2_D>(key, "spectrum-load-not-global");
       continue;
     }
     if (key > 1) {
       loads.Flush(row.Case);
     }
     loads.Take(row);
+    inHand = key;
+    if (run.Accounts.IsKept()) {
+      NoteSpectrumLoad(run, key, row);
+    }
     if (key == rows.Count()) {
       loads.Flush(row.Case);
     }
+  }
+  if (inHand < rows.Count()) {
+    run.Accounts.Note<T_RSP2_D>(inHand, "lost-with-next-row");
   }
   return true;
 }
@@ -131,9 +188,7 @@ void ConvertSpectrumCase(Conversion& run) {
   }
   const T_RSP1_D definition = RecordOr(definitions.Find(1), T_RSP1_D{});
   run.Target.Control<T_NGT_SPCT_D>() = {
-      .TYPE = definition.ModalCombo,
-      .DAMPING = definition.ModalCombo == "CQC" ? definition.ConstDamp : 0.0,
-      .bWrite = true};
+      .TYPE = definition.ModalCombo, .DAMPING = definition.TargetDamping(), .bWrite = true};
   run.Target.NeedAnalCtrl = true;
 }
 
@@ -192,6 +247,39 @@ bool WriteSpectrumControl(Conversion& run, LineWriter& out) {
   out.WriteLine("\t%s, %5g, %5s\n", control.TYPE, control.DAMPING, "NO");
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+void CloseDefinitions(Conversion& run) {
+  const auto& definitions = run.Source.Rows<T_RSP1_D>();
+  const T_RSP1_D first = RecordOr(definitions.Find(1), T_RSP1_D{});
+  for (const auto [key, definition] : definitions.Entries()) {
+    const bool isSame = definition.ModalCombo == first.ModalCombo &&
+                        definition.TargetDamping() == first.TargetDamping();
+    if (key > 1) {
+      run.Accounts.Note<T_RSP1_D>(
+          key, isSame ? Why("definition-as-first") : Why("definition-not-first"));
+    }
+    if (definition.ConstDamp != definition.TargetDamping()) {
+      run.Accounts.Note<T_RSP1_D>(key, "spectrum-damping-lost");
+    }
+  }
+}
+
+}  // namespace
+
+void CloseSpectrum(Conversion& run) {
+  run.Accounts.NoteAll<T_RSP3_D>("damping-of-other-kind");
+  run.Accounts.NoteAll<T_RSP4_D>("damping-of-other-kind");
+  run.Accounts.NoteAll<T_RSP5_D>("damping-of-other-kind");
+  if (run.Target.Control<T_NGT_SPCT_D>().bWrite) {
+    CloseDefinitions(run);
+  } else {
+    run.Accounts.NoteAll<T_RSP1_D>("analysis-case-missing");
+  }
 }
 
 }  // namespace s2k2ngt

@@ -104,6 +104,9 @@ struct T_RSP1_D {
   static constexpr Text kTable = "T_RSP1_D";
   Text ModalCombo;  // "CQC", "SRSS" and others
   double ConstDamp = 0.0;
+
+  /// The damping in the output, which has one for this combination alone.
+  double TargetDamping() const { return ModalCombo == "CQC" ? ConstDamp : 0.0; }
 };
 
 template <>
@@ -212,5 +215,10 @@ bool WriteSpectrumLoads(Conversion& run, LineWriter& out);
 
 /// Writes *SPEC-CTRL.
 bool WriteSpectrumControl(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes the definitions and dampings of spectrum cases that do not go over as they stand.
+void CloseSpectrum(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -1,7 +1,11 @@
 #include "analysis/structure.h"
 
+#include "analysis/spectrum.h"
+#include "analysis/time_functions.h"
+#include "loads/load_cases.h"
 #include "target/wrapped_list.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -9,32 +13,42 @@ namespace s2k2ngt {
 
 // ---- Conversion ----
 
-double GravityInModelUnits(const CModel& source) {
-  struct LengthUnit {
-    Text Name;
-    double Factor;
-  };
-  // Meant so: the metric factors run the other way from those of inches and feet. The outputs that
-  // readers of the target have were made with them.
-  constexpr std::array kLengthUnits = std::to_array<LengthUnit>(
-      {{"M", 1.0}, {"CM", 0.01}, {"MM", 0.001}, {"IN", 39.3701}, {"FT", 3.2808}});
-  constexpr double kGravity = 9.806;
+namespace {
+
+struct LengthUnit {
+  Text Name;
+  double Factor;
+};
+
+// Meant so: the metric factors run the other way from those of inches and feet. The outputs that
+// readers of the target have were made with them.
+constexpr std::array kLengthUnits = std::to_array<LengthUnit>(
+    {{"M", 1.0}, {"CM", 0.01}, {"MM", 0.001}, {"IN", 39.3701}, {"FT", 3.2808}});
+
+/// The length unit of the model; null for one that has no gravity of its own.
+const LengthUnit* LengthUnitOf(const CModel& source) {
   const std::string length = ToUpper(source.CurrentUnits().Length);
-  for (const auto& [name, factor] : kLengthUnits) {
-    if (name == length) {
-      return factor * kGravity;
-    }
-  }
-  return kGravity;
+  const auto* const unit = std::ranges::find(kLengthUnits, length, &LengthUnit::Name);
+  return unit == kLengthUnits.end() ? nullptr : unit;
+}
+
+}  // namespace
+
+double GravityInModelUnits(const CModel& source) {
+  constexpr double kGravity = 9.806;
+  const LengthUnit* const unit = LengthUnitOf(source);
+  return unit == nullptr ? kGravity : unit->Factor * kGravity;
 }
 
 namespace {
+
+constexpr Text kMassOfElements = "Elements";
 
 /// Mass sources into loads to mass. True when the elements have mass as well.
 bool ConvertMassSources(Conversion& run) {
   bool haveElementsMass = false;
   for (const auto [key, source] : run.Source.Rows<T_MSMS_D>().Walk()) {
-    if (source.MassFrom != "Elements") {
+    if (source.MassFrom != kMassOfElements) {
       auto& loadsToMass = run.Target.Control<T_NGT_LTMS_D>();
       loadsToMass.GRAV = GravityInModelUnits(run.Source);
       loadsToMass.Loads.push_back({source.LoadCase, source.Multiplier});
@@ -108,6 +122,71 @@ bool WriteLoadsToMass(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+/// True when gravity stands in the output, in the length unit.
+bool IsGravityWritten(Conversion& run) {
+  return run.Target.Control<T_NGT_STYP_D>().bWrite || !run.Target.Table<T_NGT_SFNC_D>().Empty() ||
+         !run.Target.Table<T_NGT_THFN_D>().Empty();
+}
+
+void CloseUnits(Conversion& run) {
+  constexpr std::uint32_t kOnly = 1;
+  if (!run.Source.CurrentUnits().IsStated) {
+    run.Accounts.Note<Units>(kOnly, "value-not-stated");
+  }
+  if (!IsGravityWritten(run)) {
+    return;
+  }
+  const LengthUnit* const unit = LengthUnitOf(run.Source);
+  if (unit == nullptr) {
+    run.Accounts.Note<Units>(kOnly, "length-unit-unknown");
+  } else if (unit->Factor < 1.0) {
+    run.Accounts.Note<Units>(kOnly, "gravity-of-small-unit");
+  }
+}
+
+/// True for all six degrees of freedom, and for those of a plane.
+bool HasStructureType(const ActiveDegreesOfFreedom& freedom) {
+  switch (StructureTypeOf(freedom)) {
+    case 1:
+      return !freedom.RX && freedom.RY && !freedom.RZ;
+    case 2:
+      return freedom.RX && !freedom.RY && !freedom.RZ;
+    case 3:
+      return !freedom.RX && !freedom.RY && freedom.RZ;
+    default:
+      return freedom.UX && freedom.UY && freedom.UZ && freedom.RX && freedom.RY && freedom.RZ;
+  }
+}
+
+void CloseMassSources(Conversion& run) {
+  const auto& loadCases = run.Target.Table<T_NGT_STLC_D>();
+  for (const auto [key, source] : run.Source.Rows<T_MSMS_D>().Entries()) {
+    if (source.MassFrom != kMassOfElements &&
+        !loadCases.FirstWith<&T_NGT_STLC_D::LCNAME>(source.LoadCase)) {
+      run.Accounts.Note<T_MSMS_D>(key, "load-case-not-written");
+    }
+  }
+}
+
+}  // namespace
+
+void CloseStructure(Conversion& run) {
+  CloseUnits(run);
+  if (!run.Target.Control<T_NGT_STYP_D>().bWrite) {
+    run.Accounts.NoteAll<T_MSMS_D>("analysis-case-missing");
+    run.Accounts.Note<ActiveDegreesOfFreedom>(1, "analysis-case-missing");
+    return;
+  }
+  if (!HasStructureType(run.Source.Freedom())) {
+    run.Accounts.Note<ActiveDegreesOfFreedom>(1, "freedoms-not-of-host");
+  }
+  CloseMassSources(run);
 }
 
 }  // namespace s2k2ngt

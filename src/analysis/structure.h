@@ -64,4 +64,9 @@ bool WriteStructureType(Conversion& run, LineWriter& out);
 /// Writes *LOADTOMASS.
 bool WriteLoadsToMass(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes units, degrees of freedom and mass sources that do not go over as they stand.
+void CloseStructure(Conversion& run);
+
 }  // namespace s2k2ngt

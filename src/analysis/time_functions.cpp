@@ -28,16 +28,18 @@ std::vector<TimePair> PointsIn(CModel& source, Text name, double timeFactor) {
 }
 
 /// Meant so: with a single function from a file, functions of the user's own are not looked at.
+bool AreFromFiles(CModel& source) { return !source.Rows<T_FTHF_D>().Empty(); }
+
 std::vector<TimePair> PointsOf(CModel& source, Text name, double timeFactor) {
-  return source.Rows<T_FTHF_D>().Empty() ? PointsIn<T_FTHU_D>(source, name, timeFactor)
-                                         : PointsIn<T_FTHF_D>(source, name, timeFactor);
+  return AreFromFiles(source) ? PointsIn<T_FTHF_D>(source, name, timeFactor)
+                              : PointsIn<T_FTHU_D>(source, name, timeFactor);
 }
 
 }  // namespace
 
-bool AddTimeFunction(Conversion& run, T_NGT_THFN_D function, double timeFactor) {
+bool AddTimeFunction(Conversion& run, T_NGT_THFN_D function) {
   function.GRAV = GravityInModelUnits(run.Source);
-  function.Pairs = PointsOf(run.Source, function.NAME, timeFactor);
+  function.Pairs = PointsOf(run.Source, function.NAME, function.TimeFactor);
   if (function.Pairs.empty()) {
     run.Warnings.bTimeFunctionLost = true;
     return false;
@@ -70,6 +72,36 @@ bool WriteTimeFunctions(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+template <std::derived_from<TimePoint> Record>
+void NoteUnused(Conversion& run) {
+  for (const auto [key, point] : run.Source.Rows<Record>().Entries()) {
+    if (!HasTimeFunction(run, point.Name)) {
+      run.Accounts.Note<Record>(key, "time-function-not-used");
+    }
+  }
+}
+
+template <class... Records>
+void NoteFormulas(Conversion& run) {
+  (run.Accounts.NoteAll<Records>("time-function-by-formula"), ...);
+}
+
+}  // namespace
+
+void CloseTimeFunctions(Conversion& run) {
+  NoteFormulas<T_FTHC_D, T_FTHP_D, T_FTHR_D, T_FTHS_D, T_FTHT_D, T_FTHW_D>(run);
+  NoteUnused<T_FTHF_D>(run);
+  if (AreFromFiles(run.Source)) {
+    run.Accounts.NoteAll<T_FTHU_D>("user-function-beside-file");
+  } else {
+    NoteUnused<T_FTHU_D>(run);
+  }
 }
 
 }  // namespace s2k2ngt

@@ -102,6 +102,7 @@ struct T_NGT_THFN_D {
   double SCALE = 0.0;
   double GRAV = 0.0;
   std::vector<TimePair> Pairs;
+  double TimeFactor = 0.0;  // by which the times are stretched
 };
 
 // ---- Conversion ----
@@ -109,13 +110,18 @@ struct T_NGT_THFN_D {
 /// True when the target has a function of this name.
 bool HasTimeFunction(Conversion& run, Text name);
 
-/// Adds the function of this name with its points, their times stretched by a factor. False, and
+/// Adds the function of this name with its points, their times stretched by its factor. False, and
 /// noted, when the source has no points of it.
-bool AddTimeFunction(Conversion& run, T_NGT_THFN_D function, double timeFactor);
+bool AddTimeFunction(Conversion& run, T_NGT_THFN_D function);
 
 // ---- Output ----
 
 /// Writes *TFUNCTION.
 bool WriteTimeFunctions(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes the points of functions that are not in the output.
+void CloseTimeFunctions(Conversion& run);
 
 }  // namespace s2k2ngt

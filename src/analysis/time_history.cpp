@@ -1,8 +1,11 @@
 #include "analysis/time_history.h"
 
+#include "analysis/cases.h"
+#include "analysis/converted_rows.h"
 #include "common/numbers.h"
+#include "common/value_map.h"
 
-#include <optional>
+#include <cmath>
 
 namespace s2k2ngt {
 
@@ -27,12 +30,25 @@ void SetCase(const Definition& definition, Linearity linearity, Text initialCond
   }
 }
 
-void AddHistory(Conversion& run, const T_NGT_THLC_D& history) {
-  run.Target.Table<T_NGT_THLC_D>().Append(history);
-  run.Target.NeedAnalCtrl = true;
+/// True when results come as far apart as wanted.
+bool KeepsInterval(const T_NGT_THLC_D& history, double interval) {
+  return std::abs(history.iOUT * history.INC - interval) <= std::abs(interval) * 1e-9;
 }
 
-/// What there is of proportional damping under the words of a modal definition.
+/// Adds the case of the definition under this key.
+template <class Definition>
+void AddHistory(Conversion& run, std::uint32_t key, const Definition& definition,
+                const T_NGT_THLC_D& history) {
+  run.Target.Table<T_NGT_THLC_D>().Append(history);
+  run.Target.NeedAnalCtrl = true;
+  MarkConverted<Definition>(run, key, key);
+  if (!KeepsInterval(history, definition.StepSize)) {
+    run.Accounts.Note<Definition>(key, "history-output-interval");
+  }
+}
+
+}  // namespace
+
 std::optional<ProportionalKind> ProportionalKindOf(Text dampingType) {
   if (dampingType == "Pro-Direct") {
     return ProportionalKind::Factors;
@@ -46,7 +62,7 @@ std::optional<ProportionalKind> ProportionalKindOf(Text dampingType) {
   return std::nullopt;
 }
 
-constexpr Text kConstant = "Constant";
+namespace {
 
 /// False when a proportional damping has no values.
 bool ConvertDamping(CModel& source, const T_MDH1_D& definition, HistoryDamping& damping) {
@@ -73,7 +89,7 @@ void ConvertModalParameters(CModel& source, const T_MDH1_D& definition, T_NGT_TH
 }  // namespace
 
 bool T_MDH1_D::HasTargetDamping() const {
-  return DampingType == kConstant || ProportionalKindOf(DampingType).has_value();
+  return DampingType == kConstantDamping || ProportionalKindOf(DampingType).has_value();
 }
 
 void ConvertModalHistory(Conversion& run, Text name, Linearity linearity, Text initialCondition,
@@ -86,7 +102,7 @@ void ConvertModalHistory(Conversion& run, Text name, Linearity linearity, Text i
   history.iAMETHOD = HistoryMethod::Modal;
   for (const std::uint32_t position :
        definitions.AllWith<&T_MDH1_D::CaseByDamping>(QualifiedLabel{name, T_MDH1_D::kKept})) {
-    const T_MDH1_D& definition = definitions.AtWalk(position).Value;
+    const auto [key, definition] = definitions.AtWalk(position);
     SetCase(definition, linearity, initialCondition, history);
     history.iTHTYPE = definition.HistoryType == "Transient" ? 1 : 2;
     if (!ConvertDamping(run.Source, definition, history.Damping)) {
@@ -99,12 +115,14 @@ void ConvertModalHistory(Conversion& run, Text name, Linearity linearity, Text i
       ConvertModalParameters(run.Source, definition, history);
     }
     loads.Convert(run, name);
-    AddHistory(run, history);
+    AddHistory(run, key, definition, history);
   }
   run.Warnings.bHistoryDampingLost |= !lost.empty();
 }
 
 namespace {
+
+constexpr Text kNewmark = "Newmark";
 
 /// The method by which a direct case is integrated; one without a row has none. False when the
 /// target does not have it.
@@ -113,7 +131,7 @@ bool ConvertMethod(CModel& source, Text name, T_NGT_THLC_D& history) {
   if (!row) {
     return true;
   }
-  if (row->Value.IntMethod != "Newmark") {
+  if (row->Value.IntMethod != kNewmark) {
     return false;
   }
   history.GAMMA = row->Value.Gamma;
@@ -147,7 +165,7 @@ void ConvertDirectHistory(Conversion& run, Text name, Linearity linearity, Text 
   history.iAMETHOD = HistoryMethod::Direct;
   history.iTHTYPE = 1;
   for (const std::uint32_t position : definitions.AllWith<&T_DRH1_D::Case>(name)) {
-    const T_DRH1_D& definition = definitions.AtWalk(position).Value;
+    const auto [key, definition] = definitions.AtWalk(position);
     SetCase(definition, linearity, initialCondition, history);
     if (!ConvertDirectDamping(run.Source, name, history.Damping)) {
       run.Warnings.bHistoryDataLost = true;
@@ -161,7 +179,7 @@ void ConvertDirectHistory(Conversion& run, Text name, Linearity linearity, Text 
       ConvertDirectParameters(run.Source, definition, history);
     }
     ConvertDirectLoads(run, name);
-    AddHistory(run, history);
+    AddHistory(run, key, definition, history);
   }
 }
 
@@ -231,6 +249,140 @@ bool WriteTimeHistories(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+/// The kinds of analysis cases and of damping that go with a definition.
+template <class Definition>
+struct HistoryTables;
+
+template <>
+struct HistoryTables<T_MDH1_D> {
+  static constexpr Text kLinear = kLinearModalHistory;
+  static constexpr Text kNonlinear = kNonlinearModalHistory;
+  using Damping = T_MDH4_D;
+};
+
+template <>
+struct HistoryTables<T_DRH1_D> {
+  static constexpr Text kLinear = kLinearDirectHistory;
+  static constexpr Text kNonlinear = kNonlinearDirectHistory;
+  using Damping = T_DRH3_D;
+};
+
+}  // namespace
+
+template <class Definition>
+bool IsHistoryAnalysed(Conversion& run, Text name) {
+  using Tables = HistoryTables<Definition>;
+  return IsAnalysed(run, name, Tables::kLinear) || IsAnalysed(run, name, Tables::kNonlinear);
+}
+template bool IsHistoryAnalysed<T_MDH1_D>(Conversion& run, Text name);
+template bool IsHistoryAnalysed<T_DRH1_D>(Conversion& run, Text name);
+
+template <class Definition>
+std::optional<Why> WhyHistoryIsLost(Conversion& run, Text name) {
+  if (!IsHistoryAnalysed<Definition>(run, name)) {
+    return Why("analysis-case-missing");
+  }
+  const auto& histories = run.Target.Table<T_NGT_THLC_D>();
+  return histories.FirstWith<&T_NGT_THLC_D::NAME>(name) ? std::nullopt
+                                                        : std::optional(Why("case-not-converted"));
+}
+template std::optional<Why> WhyHistoryIsLost<T_MDH1_D>(Conversion& run, Text name);
+template std::optional<Why> WhyHistoryIsLost<T_DRH1_D>(Conversion& run, Text name);
+
+namespace {
+
+/// Why a definition whose case is asked for is not converted, beside its proportional damping.
+std::optional<Why> WhyKindIsLost(const T_MDH1_D& definition) {
+  return definition.HasTargetDamping() ? std::nullopt
+                                       : std::optional(Why("history-damping-unknown"));
+}
+std::optional<Why> WhyKindIsLost(const T_DRH1_D& /*definition*/) { return {}; }
+
+bool IsProportional(const T_MDH1_D& definition) {
+  return ProportionalKindOf(definition.DampingType).has_value();
+}
+bool IsProportional(const T_DRH1_D& /*definition*/) { return true; }
+
+/// What ended the definitions of a case that has its damping.
+constexpr Why WhyEnded(const T_MDH1_D& /*definition*/) { return "behind-lost-row"; }
+constexpr Why WhyEnded(const T_DRH1_D& /*definition*/) { return "integration-not-newmark"; }
+
+template <class Definition>
+Why WhyDefinitionIsLost(Conversion& run, const Definition& definition) {
+  using Damping = typename HistoryTables<Definition>::Damping;
+  if (!IsHistoryAnalysed<Definition>(run, definition.Case)) {
+    return "analysis-case-missing";
+  }
+  if (const auto why = WhyKindIsLost(definition)) {
+    return *why;
+  }
+  if (IsProportional(definition) && !HasProportionalDamping<Damping>(run.Source, definition.Case)) {
+    return "damping-without-values";
+  }
+  return WhyEnded(definition);
+}
+
+template <class Definition>
+void CloseHistoryDefinitions(Conversion& run) {
+  ValueMap<Text, bool> isDefined;  // by the name of the case
+  for (const auto [key, definition] : run.Source.Rows<Definition>().Walk()) {
+    if (!WasConverted<Definition>(run, key)) {
+      run.Accounts.Note<Definition>(key, WhyDefinitionIsLost(run, definition));
+    } else if (!isDefined.Meet(definition.Case).IsNew) {
+      run.Accounts.Note<Definition>(key, "history-defined-again");
+    }
+  }
+}
+
+/// Notes the parameters of cases that are linear or lost, and all but the first of a case.
+template <class Parameters, class Definition>
+void CloseParameters(Conversion& run) {
+  const auto& rows = run.Source.Rows<Parameters>();
+  for (const auto [key, row] : rows.Entries()) {
+    if (const auto why = WhyHistoryIsLost<Definition>(run, row.Case)) {
+      run.Accounts.Note<Parameters>(key, *why);
+    } else if (!IsAnalysed(run, row.Case, HistoryTables<Definition>::kNonlinear)) {
+      run.Accounts.Note<Parameters>(key, "no-part-in-its-case");
+    } else if (rows.template FirstWith<&Parameters::Case>(row.Case)->Key != key) {
+      run.Accounts.Note<Parameters>(key, "case-defined-again");
+    }
+  }
+}
+
+void CloseMethods(Conversion& run) {
+  const auto& rows = run.Source.Rows<T_DRH4_D>();
+  for (const auto [key, row] : rows.Entries()) {
+    if (!IsHistoryAnalysed<T_DRH1_D>(run, row.Case)) {
+      run.Accounts.Note<T_DRH4_D>(key, "analysis-case-missing");
+    } else if (rows.FirstWith<&T_DRH4_D::Case>(row.Case)->Key != key) {
+      run.Accounts.Note<T_DRH4_D>(key, "case-defined-again");
+    } else if (row.IntMethod != kNewmark) {
+      run.Accounts.Note<T_DRH4_D>(key, "integration-not-newmark");
+    } else if (const auto why = WhyHistoryIsLost<T_DRH1_D>(run, row.Case)) {
+      run.Accounts.Note<T_DRH4_D>(key, *why);
+    }
+  }
+  for (const auto [key, definition] : run.Source.Rows<T_DRH1_D>().Entries()) {
+    if (WasConverted<T_DRH1_D>(run, key) && !rows.FirstWith<&T_DRH4_D::Case>(definition.Case)) {
+      run.Accounts.Note<T_DRH1_D>(key, "value-not-stated");
+    }
+  }
+}
+
+}  // namespace
+
+void CloseTimeHistories(Conversion& run) {
+  CloseHistoryDefinitions<T_MDH1_D>(run);
+  CloseHistoryDefinitions<T_DRH1_D>(run);
+  CloseParameters<T_MDH6_D, T_MDH1_D>(run);
+  CloseParameters<T_DRH5_D, T_DRH1_D>(run);
+  CloseMethods(run);
 }
 
 }  // namespace s2k2ngt

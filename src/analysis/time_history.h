@@ -8,6 +8,7 @@
 #include "target/conversion.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace s2k2ngt {
 
@@ -160,5 +161,23 @@ void ConvertDirectHistory(Conversion& run, Text name, Linearity linearity, Text 
 
 /// Writes *THLDCASE.
 bool WriteTimeHistories(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+inline constexpr Text kConstantDamping = "Constant";
+
+/// What there is of proportional damping under the words of a modal definition.
+std::optional<ProportionalKind> ProportionalKindOf(Text dampingType);
+
+/// True when an analysis case of the definition's kind, modal or direct, bears the name.
+template <class Definition>
+bool IsHistoryAnalysed(Conversion& run, Text name);
+
+/// Why a history case is not in the output; nothing if it is.
+template <class Definition>
+std::optional<Why> WhyHistoryIsLost(Conversion& run, Text name);
+
+/// Notes the definitions and parameters of history cases that do not go over as they stand.
+void CloseTimeHistories(Conversion& run);
 
 }  // namespace s2k2ngt

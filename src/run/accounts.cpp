@@ -4,6 +4,16 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/solids.h"
+#include "analysis/buckling.h"
+#include "analysis/cases.h"
+#include "analysis/combinations.h"
+#include "analysis/history_damping.h"
+#include "analysis/history_loads.h"
+#include "analysis/modal.h"
+#include "analysis/spectrum.h"
+#include "analysis/structure.h"
+#include "analysis/time_functions.h"
+#include "analysis/time_history.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
@@ -38,6 +48,16 @@ constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
     CloseSolids,
     CloseLinks,
     CloseAutoLoads,
+    CloseStructure,
+    CloseAnalysisCases,
+    CloseModal,
+    CloseBuckling,
+    CloseSpectrum,
+    CloseTimeFunctions,
+    CloseHistoryDamping,
+    CloseHistoryLoads,
+    CloseTimeHistories,
+    CloseCombinations,
 });
 
 }  // namespace

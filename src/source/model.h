@@ -16,6 +16,7 @@ namespace s2k2ngt {
 
 /// Which translations and rotations the analysis has; of the table's first row.
 struct ActiveDegreesOfFreedom {
+  static constexpr Text kTable = kActiveDegreesOfFreedom;
   bool UX = false;
   bool UY = false;
   bool UZ = false;
@@ -26,9 +27,11 @@ struct ActiveDegreesOfFreedom {
 
 /// The units of the source file, of the program control table's first row.
 struct Units {
+  static constexpr Text kTable = kUnits;
   Text Force = "Ton";
   Text Length = "m";
   Text Temperature = "C";
+  bool IsStated = false;  // and no default
 };
 
 /// The source file as tables of row records, one for each table that the converter knows. The key

@@ -43,7 +43,7 @@ std::optional<Refusal> StoreUnits(TableRows rows, CModel& model, Messages& /*sho
       throw InvalidArgumentException("CurrUnits= must name force, length and temperature");
     }
     TextStore& texts = model.Texts();
-    units = {texts.Keep(words[0]), texts.Keep(words[1]), texts.Keep(words[2])};
+    units = {texts.Keep(words[0]), texts.Keep(words[1]), texts.Keep(words[2]), true};
   }
   model.Set(units);
   model.CountRows(1);

@@ -6,10 +6,14 @@
 
 #include <gtest/gtest.h>
 
-std::vector<std::string> AccountRun::Losses() const {
+std::vector<std::string> AccountRun::Losses() const { return LossesIn(""); }
+
+std::vector<std::string> AccountRun::LossesIn(std::string_view words) const {
   std::vector<std::string> losses;
   for (const s2k2ngt::RowLoss& loss : Rows.Losses) {
-    losses.push_back(loss.Label + ": " + loss.Why->Code);
+    if (Rows.Tables[loss.Table].Title.find(words) != std::string::npos) {
+      losses.push_back(loss.Label + ": " + loss.Why->Code);
+    }
   }
   return losses;
 }

@@ -15,6 +15,8 @@ struct AccountRun {
 
   /// The reasons of single rows, as "Frame=12: frame-section-unknown", in the order of the file.
   std::vector<std::string> Losses() const;
+  /// Those of the tables whose titles hold these words.
+  std::vector<std::string> LossesIn(std::string_view words) const;
   /// The tables, each as "JOINT COORDINATES: 4 rows, 3 converted, 1 dropped", in the order of the
   /// file; fates without a row are left out.
   std::vector<std::string> Tables() const;
