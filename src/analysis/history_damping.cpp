@@ -1,6 +1,6 @@
 #include "analysis/history_damping.h"
 
-#include "analysis/time_history.h"
+#include "analysis/history_account.h"
 #include "common/numbers.h"
 #include "target/wrapped_list.h"
 

@@ -1,8 +1,8 @@
 #include "analysis/history_loads.h"
 
 #include "analysis/converted_rows.h"
+#include "analysis/history_account.h"
 #include "analysis/time_functions.h"
-#include "analysis/time_history.h"
 #include "loads/load_cases.h"
 
 #include <optional>

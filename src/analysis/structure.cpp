@@ -1,7 +1,6 @@
 #include "analysis/structure.h"
 
 #include "analysis/spectrum.h"
-#include "analysis/time_functions.h"
 #include "loads/load_cases.h"
 #include "target/wrapped_list.h"
 
@@ -130,8 +129,7 @@ namespace {
 
 /// True when gravity stands in the output, in the length unit.
 bool IsGravityWritten(Conversion& run) {
-  return run.Target.Control<T_NGT_STYP_D>().bWrite || !run.Target.Table<T_NGT_SFNC_D>().Empty() ||
-         !run.Target.Table<T_NGT_THFN_D>().Empty();
+  return run.Target.Control<T_NGT_STYP_D>().bWrite || !run.Target.Table<T_NGT_SFNC_D>().Empty();
 }
 
 void CloseUnits(Conversion& run) {

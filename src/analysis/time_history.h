@@ -87,6 +87,8 @@ struct T_DRH4_D {
   Text IntMethod;  // "Newmark" and others
   double Gamma = 0.0;
   double Beta = 0.0;
+
+  bool IsTargetMethod() const { return IntMethod == "Newmark"; }
 };
 
 template <>
@@ -150,6 +152,11 @@ struct T_NGT_THLC_D {
 
 // ---- Conversion ----
 
+inline constexpr Text kConstantDamping = "Constant";
+
+/// What there is of proportional damping under the words of a modal definition.
+std::optional<ProportionalKind> ProportionalKindOf(Text dampingType);
+
 /// A modal time history case: all definitions of its name, with the loads of the case.
 void ConvertModalHistory(Conversion& run, Text name, Linearity linearity, Text initialCondition,
                          ModalHistoryLoads& loads);
@@ -161,23 +168,5 @@ void ConvertDirectHistory(Conversion& run, Text name, Linearity linearity, Text 
 
 /// Writes *THLDCASE.
 bool WriteTimeHistories(Conversion& run, LineWriter& out);
-
-// ---- Account ----
-
-inline constexpr Text kConstantDamping = "Constant";
-
-/// What there is of proportional damping under the words of a modal definition.
-std::optional<ProportionalKind> ProportionalKindOf(Text dampingType);
-
-/// True when an analysis case of the definition's kind, modal or direct, bears the name.
-template <class Definition>
-bool IsHistoryAnalysed(Conversion& run, Text name);
-
-/// Why a history case is not in the output; nothing if it is.
-template <class Definition>
-std::optional<Why> WhyHistoryIsLost(Conversion& run, Text name);
-
-/// Notes the definitions and parameters of history cases that do not go over as they stand.
-void CloseTimeHistories(Conversion& run);
 
 }  // namespace s2k2ngt

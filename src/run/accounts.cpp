@@ -7,13 +7,13 @@
 #include "analysis/buckling.h"
 #include "analysis/cases.h"
 #include "analysis/combinations.h"
+#include "analysis/history_account.h"
 #include "analysis/history_damping.h"
 #include "analysis/history_loads.h"
 #include "analysis/modal.h"
 #include "analysis/spectrum.h"
 #include "analysis/structure.h"
 #include "analysis/time_functions.h"
-#include "analysis/time_history.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>

@@ -121,6 +121,17 @@ TEST(AccountOfCasesTest, AMovingCaseIsConvertedIfItsAssignmentsAre) {
               ElementsAre("Case=TRAINS: case-not-converted"));
 }
 
+TEST(AccountOfCasesTest, AMovingCaseBehindAnotherThatIsLostIsDroppedWithIt) {
+  // Of one assignment in the output, that under key 2 is not written.
+  EXPECT_THAT(LossesOfCases("   Case=TRUCKS   Type=LinMoving\n",
+                            SourceTable("BRIDGE LOADS 5 - VEHICLE CLASSES",
+                                        "   VehClass=TRUCKS   VehName=HS20\n") +
+                                SourceTable("CASE - MOVING LOAD 1 - LANE ASSIGNMENTS",
+                                            "   Case=TRAINS   VehClass=TRUCKS\n"
+                                            "   Case=TRUCKS   VehClass=TRUCKS\n")),
+              ElementsAre("Case=TRUCKS: case-not-converted"));
+}
+
 TEST(AccountOfCasesTest, OfBucklingCasesTheFirstWithALoadIsConverted) {
   const std::string definitions =
       SourceTable("CASE - BUCKLING 1 - GENERAL", "   Case=B1\n   Case=B2\n");
