@@ -44,7 +44,7 @@ int RankOf(RowFate fate) {
   return 0;
 }
 
-int RankOf(std::uint8_t why) { return RankOf(kReasons[why].Fate); }
+int RankOf(std::uint16_t why) { return RankOf(kReasons[why].Fate); }
 
 }  // namespace
 
@@ -165,16 +165,16 @@ void Ledger::NoteKind(std::size_t kind, Why why) {
   }
 }
 
-void Ledger::NoteAt(std::uint32_t block, std::uint32_t row, std::uint8_t why) {
-  std::vector<std::uint8_t>& whys = m_Blocks[block].Whys;
+void Ledger::NoteAt(std::uint32_t block, std::uint32_t row, std::uint16_t why) {
+  std::vector<std::uint16_t>& whys = m_Blocks[block].Whys;
   if (whys.empty()) {
     whys.assign(m_Blocks[block].Rows, kNone);
   }
-  std::uint8_t& worst = whys[row];
+  std::uint16_t& worst = whys[row];
   if (worst == kNone) {
     worst = why;
   } else if (worst != why) {
-    std::uint8_t further = why;
+    std::uint16_t further = why;
     if (RankOf(why) > RankOf(worst)) {
       std::swap(worst, further);
     }
@@ -187,7 +187,7 @@ void Ledger::NoteAt(std::uint32_t block, std::uint32_t row, std::uint8_t why) {
 namespace {
 
 /// Counts rows of a table under a reason.
-void Count(std::uint8_t why, std::uint64_t rows, TableAccount& table) {
+void Count(std::uint16_t why, std::uint64_t rows, TableAccount& table) {
   const Reason* const reason = &kReasons[why];
   const auto found = std::ranges::find(table.Reasons, reason, &ReasonCount::Why);
   if (found == table.Reasons.end()) {
@@ -238,13 +238,13 @@ void Ledger::Tell(const Block& block, std::span<const FurtherNote> further, bool
   table.TableId = block.TableId;
   table.Message = block.Message;
   table.Rows = block.Rows;
-  const std::uint8_t ofRest =
+  const std::uint16_t ofRest =
       block.WhyOfAll == kNone && !runIsWhole ? kRunEnded.Number() : block.WhyOfAll;
   const RowFate fateOfRest = ofRest == kNone ? RowFate::Converted : kReasons[ofRest].Fate;
   std::uint64_t rest = block.Rows;
   auto next = further.begin();
   for (std::uint32_t row = 0; row < block.Whys.size(); ++row) {
-    const std::uint8_t why = block.Whys[row];
+    const std::uint16_t why = block.Whys[row];
     if (why != kNone) {
       --rest;
       const RowFate fate = kReasons[why].Fate;
@@ -252,7 +252,7 @@ void Ledger::Tell(const Block& block, std::span<const FurtherNote> further, bool
       const std::uint64_t line =
           block.Line + (block.Lines.empty() ? std::uint64_t{row} + 1 : block.Lines[row]);
       const std::string label = LabelOf(block, row);
-      const auto tell = [&](std::uint8_t reason) {
+      const auto tell = [&](std::uint16_t reason) {
         Count(reason, 1, table);
         account.Losses.push_back({tableNumber, row + 1, line, label, &kReasons[reason]});
       };

@@ -68,7 +68,7 @@ class Ledger {
   Account MakeAccount(bool runIsWhole) const;
 
  private:
-  static constexpr std::uint8_t kNone = 255;
+  static constexpr std::uint16_t kNone = 65535;
 
   struct Block {
     std::string Title;
@@ -76,8 +76,8 @@ class Ledger {
     int TableId = 0;
     std::string Message;
     std::uint32_t Rows = 0;
-    std::uint8_t WhyOfAll = kNone;
-    std::vector<std::uint8_t> Whys;    // of the rows, the worst of each; empty without any
+    std::uint16_t WhyOfAll = kNone;
+    std::vector<std::uint16_t> Whys;    // of the rows, the worst of each; empty without any
     std::vector<std::uint32_t> Lines;  // behind the title; empty when they follow it one by one
     LabelFunction LabelOf;             // of the rows that the model holds
     std::map<std::uint32_t, std::string>
@@ -87,7 +87,7 @@ class Ledger {
   struct FurtherNote {
     std::uint32_t Block;
     std::uint32_t Row;
-    std::uint8_t Why;
+    std::uint16_t Why;
     auto operator<=>(const FurtherNote&) const = default;
   };
   /// The blocks of a table that have rows in the model, the newest last. Each has more rows than
@@ -104,7 +104,7 @@ class Ledger {
   void NoteKey(std::size_t kind, std::uint32_t key, Why why);
   void NoteKind(std::size_t kind, Why why);
   void WriteOver(Kind& kind, std::uint32_t rows);
-  void NoteAt(std::uint32_t block, std::uint32_t row, std::uint8_t why);
+  void NoteAt(std::uint32_t block, std::uint32_t row, std::uint16_t why);
   static std::string LabelOf(const Block& block, std::uint32_t row);
   static void Tell(const Block& block, std::span<const FurtherNote> further, bool runIsWhole,
                    Account& account);

@@ -463,21 +463,21 @@ class Why {
   consteval Why(const char* code) : m_Number(NumberOf(code)) {}
 
   /// Position in the list.
-  constexpr std::uint8_t Number() const { return m_Number; }
+  constexpr std::uint16_t Number() const { return m_Number; }
   bool operator==(const Why&) const = default;
 
  private:
-  static consteval std::uint8_t NumberOf(Text code) {
-    static_assert(kReasons.size() < 255);
+  static consteval std::uint16_t NumberOf(Text code) {
+    static_assert(kReasons.size() < 65535);
     for (std::size_t number = 0; number < kReasons.size(); ++number) {
       if (code == kReasons[number].Code) {
-        return static_cast<std::uint8_t>(number);
+        return static_cast<std::uint16_t>(number);
       }
     }
     throw "no such reason";
   }
 
-  std::uint8_t m_Number;
+  std::uint16_t m_Number;
 };
 
 }  // namespace s2k2ngt

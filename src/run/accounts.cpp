@@ -1,9 +1,5 @@
 #include "run/accounts.h"
 
-#include "loads/wind_seismic.h"
-#include "plates/areas.h"
-#include "plates/links.h"
-#include "plates/solids.h"
 #include "analysis/buckling.h"
 #include "analysis/cases.h"
 #include "analysis/combinations.h"
@@ -14,6 +10,10 @@
 #include "analysis/spectrum.h"
 #include "analysis/structure.h"
 #include "analysis/time_functions.h"
+#include "loads/wind_seismic.h"
+#include "plates/areas.h"
+#include "plates/links.h"
+#include "plates/solids.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
