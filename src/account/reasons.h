@@ -273,6 +273,197 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "soil-type-unknown",
         "Its soil type is not one of two letters: the first two are taken, or Sa if there is none.",
         "Correct the soil profile in the host."),
+    reasons::Changed("joint-not-there",
+                     "It names a joint that the file does not have: its line in the output names a "
+                     "node that is not there.",
+                     "Look for the joint in the source model."),
+    reasons::Changed(
+        "element-not-there",
+        "It names an element that the file does not have: its line in the output names "
+        "one that is not there.",
+        "Look for the element in the source model."),
+
+    reasons::Dropped(
+        "load-defined-again",
+        "Several rows define the load, and the type of its load case is that of another.",
+        "Give the load one row."),
+    reasons::Changed("load-defined-again-with-weight",
+                     "Several rows define the load: the type of its load case is that of another, "
+                     "and the self weights of all of them are written.",
+                     "Give the load one row."),
+    reasons::Reworded(
+        "design-type-without-like",
+        "The host has no like of its design type: the load case is of the user's type.",
+        "Set the type of the load case if the host combines load cases by it."),
+    reasons::Changed(
+        "automatic-load-not-written",
+        "It goes by a code whose parameters are not in the output: the load case has no "
+        "wind or earthquake.",
+        "Enter the wind or the earthquake in the host."),
+    reasons::Dropped("analysis-case-not-static", "Its analysis case is not a linear static one.",
+                     "Apply the load by a linear static analysis case, and convert again."),
+    reasons::Changed("load-named-again",
+                     "Another row names the same load: the load case and all its loads are written "
+                     "once more.",
+                     "Let one linear static analysis case alone apply the load."),
+    reasons::Changed("load-unknown",
+                     "It names no load that the file defines, as accelerations do: a load case "
+                     "without a type is written.",
+                     "Enter the acceleration in the host."),
+    reasons::Changed("load-scale-factor", "The scale factor of the load is not taken over.",
+                     "Put the factor into a load combination in the host."),
+    reasons::Changed(
+        "case-of-several-loads",
+        "Its analysis case applies several loads, each of which becomes a load case of "
+        "its own.",
+        "Put the loads together in a load combination in the host."),
+    reasons::Reworded("case-of-another-name",
+                      "The load case has the name of the load and not that of the analysis case.",
+                      "Look whether load combinations name the analysis case."),
+
+    reasons::Changed("component-near-zero",
+                     "A component that is below 0.00001 when it is turned to other axes becomes 0.",
+                     "Enter the component in the host, or convert a file with smaller units."),
+
+    reasons::Redundant("pattern-value-not-used", "No load that is written takes its value.",
+                       "Look whether the loads of the pattern have other reasons to be lost."),
+    reasons::Changed(
+        "pattern-unknown",
+        "The file has no values of its joint pattern: they count as 0. So they do where "
+        "no pattern is stated.",
+        "Assign the pattern to joints, or state JtPattern=None."),
+    reasons::Changed("pressure-by-pattern",
+                     "The full pressure is written as a uniform one, beside those at the corners "
+                     "that its joint pattern gives.",
+                     "Take the uniform pressure off in the host."),
+    reasons::Changed(
+        "temperature-by-pattern",
+        "Its joint pattern gives a mean for the element, and temperatures of its nodes, "
+        "which add up where elements share a node.",
+        "Look at the element and nodal temperatures in the host."),
+    reasons::Changed("pattern-on-fewer-joints",
+                     "Its element has fewer joints than the mean by its joint pattern is over: "
+                     "places without a joint count as joints of value 0.",
+                     "Enter the temperature of the element in the host."),
+
+    reasons::Changed(
+        "load-direction-without-like",
+        "The host has no like of its direction, or of the coordinate system of that: it "
+        "is written without one.",
+        "Enter the direction of the load in the host."),
+    reasons::Changed("load-type-unknown",
+                     "It is neither a force nor a moment: it is written without kind and value.",
+                     "Enter the load in the host."),
+    reasons::Changed(
+        "distance-type-unknown",
+        "Its distances are neither relative nor absolute: it is written with distances "
+        "of 0.",
+        "Enter the distances of the load in the host."),
+    reasons::Redundant("span-of-nothing", "It is spread over a length of nothing.",
+                       "Look whether the load was meant to be a point load."),
+    reasons::Dropped("frame-without-length",
+                     "Its distance is absolute, and its frame has no length.",
+                     "Export the connectivity of frames with lengths, or state distances as "
+                     "relative."),
+    reasons::Dropped("behind-frame-without-length",
+                     "A load at an absolute distance on a frame without a length comes before it, "
+                     "and ends the table. The order is not that of the rows.",
+                     "Mend the load that stands on a frame without a length, and convert again."),
+    reasons::Changed("last-frame-for-unknown",
+                     "It names a frame that the file does not have: length or joints of the last "
+                     "frame are taken.",
+                     "Look for the frame in the source model."),
+    reasons::Dropped("frame-without-section", "Its frame has no section, and so no weight.",
+                     "Assign a section to the frame."),
+    reasons::Changed("frame-weight-unknown",
+                     "The file does not have the section of its frame, or the material of that: a "
+                     "weight of 0 is written.",
+                     "Enter the gravity load of the frame in the host."),
+    reasons::Changed("section-weight-modified",
+                     "The section of its frame has a weight modifier, by which the load is not "
+                     "multiplied.",
+                     "Multiply the load in the host."),
+    reasons::Dropped(
+        "tendon-without-multiplier",
+        "The table of load multipliers has none for its frame in the same place.",
+        "List tendons and multipliers in one order, or enter the prestress in the host."),
+    reasons::Changed(
+        "tendon-with-another-multiplier",
+        "The table of load multipliers has none for its frame in the same place: that "
+        "of another tendon is taken.",
+        "List tendons and multipliers in one order, or enter the prestress in the host."),
+    reasons::Dropped(
+        "multiplier-without-tendon",
+        "The table of tendons has none of its frame in the same place.",
+        "List tendons and multipliers in one order, or enter the prestress in the host."),
+
+    reasons::Changed("area-direction-unknown", "Its direction is not known: it is taken as Z.",
+                     "Enter the load in the host."),
+    reasons::Dropped("uniform-load-without-like",
+                     "It is neither global nor along local axis 3 of its area.",
+                     "Enter the load in the host."),
+    reasons::Changed(
+        "load-before-in-its-place",
+        "It is neither global nor along local axis 3 of its area: the load before it is "
+        "written once more. The order is not that of the rows.",
+        "Look at the pressures in the host: delete what stands there twice, and enter "
+        "the load."),
+    reasons::Dropped("pressure-on-edge", "It presses on an edge of its area.",
+                     "Enter the load in the host."),
+    reasons::Dropped("load-by-rotation", "Loads by rotation are not converted.",
+                     "Enter the load in the host."),
+    reasons::Dropped("area-load-to-frames", "Loads of areas to frames are not converted.",
+                     "Enter the load on the frames in the host, as a floor load or as beam loads."),
+    reasons::Dropped("wind-coefficients-of-area", "Wind coefficients of areas are not converted.",
+                     "Enter the wind pressure in the host."),
+    reasons::Dropped("gravity-of-solid", "Gravity loads of solids are not converted.",
+                     "Enter the load in the host, as self weight or as body forces."),
+    reasons::Dropped("gravity-of-link", "Gravity loads of links are not converted.",
+                     "Enter the weight of the link in the host, as nodal loads."),
+
+    reasons::Changed("temperature-unit-unknown",
+                     "The temperature unit of the file is neither C nor F: a temperature of 0 is "
+                     "taken.",
+                     "Export the file with temperatures in C or F."),
+    reasons::Changed(
+        "reference-of-another-element",
+        "Its element has no reference temperature: that of an element before it counts. "
+        "The order is not that of the rows.",
+        "Assign a reference temperature to the element."),
+    reasons::Changed(
+        "reference-missing",
+        "Its element has no reference temperature: 0 degrees Celsius are taken for it.",
+        "Assign a reference temperature to the element."),
+    reasons::Changed("gradient-not-per-fahrenheit",
+                     "It is taken to be per degree Fahrenheit, and multiplied by 5/9.",
+                     "Multiply the gradient by 1.8 in the host."),
+    reasons::Changed(
+        "gradient-without-depth",
+        "Its element has no depth in that direction, or no section: the gradient becomes "
+        "0.",
+        "Enter the gradient in the host."),
+    reasons::Changed("gradient-by-pattern",
+                     "It goes by a joint pattern, and is written as if it did not.",
+                     "Enter the gradient in the host."),
+    reasons::Changed(
+        "gradient-of-another-beside-it",
+        "A gradient in the other direction, that of a row before it, is written with it "
+        "once more. The order is not that of the rows.",
+        "Take the other gradient off in the host."),
+    reasons::Dropped("temperature-type-unknown", "It is neither a temperature nor a gradient.",
+                     "Enter the temperature in the host."),
+    reasons::Changed("temperature-taken-as-gradient",
+                     "It is not of type Temperature, and taken for a gradient: its temperature is "
+                     "lost.",
+                     "Enter the temperature in the host."),
+    reasons::Dropped("temperature-without-load-case",
+                     "It names no load case. Reference and material temperatures of areas do not, "
+                     "and are taken for temperature loads.",
+                     "Enter reference temperatures in the host."),
+    reasons::Redundant("reference-not-used", "No temperature that is written counts from it.",
+                       "There is nothing to do."),
+    reasons::Dropped("material-temperature", "Material temperatures are not converted.",
+                     "Look whether the material in the host is that of the temperature."),
 
     // Analysis cases, functions and combinations
 

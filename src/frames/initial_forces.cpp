@@ -32,6 +32,12 @@ bool ConvertInitialForces(Conversion& run) {
   return true;
 }
 
+const T_FRLM_D* FindMultiplier(const CKeyedTable<T_FRLM_D>& multipliers, std::uint32_t key,
+                               const T_FRPT_D& tendon) {
+  const T_FRLM_D* const paired = multipliers.Find(key);
+  return paired != nullptr && paired->Frame == tendon.Frame ? paired : nullptr;
+}
+
 bool ConvertPrestress(Conversion& run) {
   const auto& multipliers = run.Source.Rows<T_FRLM_D>();
   // Meant so: a tendon without a multiplier takes that of the tendon before it in the walk. Its
@@ -39,10 +45,9 @@ bool ConvertPrestress(Conversion& run) {
   double multiplier = 1.0;
   ReserveForRows<T_NGT_FRPT_D, T_FRPT_D>(run);
   for (const auto [key, tendon] : run.Source.Rows<T_FRPT_D>().Walk()) {
-    // Meant so: a tendon has the multiplier of its own position, if that is of its frame.
-    const T_FRLM_D* const paired = multipliers.Find(key);
+    const T_FRLM_D* const paired = FindMultiplier(multipliers, key, tendon);
     Text loadCase;
-    if (paired != nullptr && paired->Frame == tendon.Frame) {
+    if (paired != nullptr) {
       loadCase = paired->LoadCase;
       multiplier = paired->Multiplier;
     }

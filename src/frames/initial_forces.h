@@ -84,6 +84,11 @@ bool ConvertInitialForces(Conversion& run);
 /// Tendons into prestress.
 bool ConvertPrestress(Conversion& run);
 
+/// The multiplier of a tendon, or null. Meant so: it is that of the tendon's own position, if that
+/// is of its frame.
+const T_FRLM_D* FindMultiplier(const CKeyedTable<T_FRLM_D>& multipliers, std::uint32_t key,
+                               const T_FRPT_D& tendon);
+
 // ---- Output ----
 
 /// Writes *INIFORCE.

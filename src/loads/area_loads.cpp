@@ -2,8 +2,15 @@
 
 #include "loads/joint_patterns.h"
 #include "loads/load_direction.h"
+#include "loads/load_references.h"
 #include "plates/areas.h"
+#include "plates/links.h"
+#include "plates/solids.h"
 #include "target/load_frame.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
 
 namespace s2k2ngt {
 
@@ -11,12 +18,11 @@ namespace s2k2ngt {
 
 namespace {
 
-/// A global direction that the target does not have is taken as Z.
-LoadDirection DirectionOf(Text dir) {
+std::optional<LoadDirection> DirectionOf(Text dir) {
   if (dir == "Grav Proj") {
-    return {"GZ", "YES", -1.0};
+    return LoadDirection{"GZ", "YES", -1.0};
   }
-  return GlobalDirection(dir).value_or(LoadDirection{"GZ", "NO", 1.0});
+  return GlobalDirection(dir);
 }
 
 T_NGT_PRSL_D PlateFaceLoad(Text area, Text loadCase, Text direction, Text projected) {
@@ -28,6 +34,30 @@ T_NGT_PRSL_D PlateFaceLoad(Text area, Text loadCase, Text direction, Text projec
           .bPROJ = projected};
 }
 
+constexpr Text kGlobal = "GLOBAL";
+
+/// True for the loads that the target has a like of: the global ones and those along the area's
+/// axis 3.
+bool HasLike(const T_ALUM_D& row) {
+  return row.CoordSys == kGlobal || (row.CoordSys == "Local" && row.Dir == "3");
+}
+
+/// The pressure of a load that the target has a like of.
+T_NGT_PRSL_D UniformPressure(Conversion& run, std::uint32_t key, const T_ALUM_D& row) {
+  LoadDirection direction{"LZ", "NO", 1.0};
+  if (row.CoordSys == kGlobal) {
+    const std::optional<LoadDirection> global = DirectionOf(row.Dir);
+    if (!global) {
+      run.Accounts.Note<T_ALUM_D>(key, "area-direction-unknown");
+    }
+    // A global direction that the target does not have is taken as Z.
+    direction = global.value_or(LoadDirection{"GZ", "NO", 1.0});
+  }
+  T_NGT_PRSL_D load = PlateFaceLoad(row.Area, row.LoadCase, direction.DIR, direction.bPROJ);
+  load.PU = direction.Sign * row.UnifLoad;
+  return load;
+}
+
 }  // namespace
 
 bool ConvertUniformLoads(Conversion& run) {
@@ -37,13 +67,8 @@ bool ConvertUniformLoads(Conversion& run) {
   T_NGT_PRSL_D load;
   ReserveForRows<T_NGT_PRSL_D, T_ALUM_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_ALUM_D>().Walk()) {
-    if (row.CoordSys == "GLOBAL") {
-      const LoadDirection direction = DirectionOf(row.Dir);
-      load = PlateFaceLoad(row.Area, row.LoadCase, direction.DIR, direction.bPROJ);
-      load.PU = direction.Sign * row.UnifLoad;
-    } else if (row.CoordSys == "Local" && row.Dir == "3") {
-      load = PlateFaceLoad(row.Area, row.LoadCase, "LZ", "NO");
-      load.PU = row.UnifLoad;
+    if (HasLike(row)) {
+      load = UniformPressure(run, key, row);
     }
     run.Target.Table<T_NGT_PRSL_D>().Append(load);
   }
@@ -76,6 +101,7 @@ bool ConvertSurfacePressures(Conversion& run) {
   for (const auto [key, row] : run.Source.Rows<T_ALSP_D>().Walk()) {
     if (!IsTopOrBottom(row.Face)) {
       run.Warnings.bPlatePressureLost = true;
+      run.Accounts.Note<T_ALSP_D>(key, "pressure-on-edge");
       continue;
     }
     T_NGT_PRSL_D load = PlateFaceLoad(row.Area, row.LoadCase, "LZ", "NO");
@@ -83,6 +109,9 @@ bool ConvertSurfacePressures(Conversion& run) {
     load.PU = row.Face == "5" ? row.Pressure : -row.Pressure;
     if (GoesByPattern(row.JtPattern)) {
       SetCorners(run.Source, row, load);  // beside the uniform pressure, which stays
+      if (!row.JtPattern.empty()) {
+        run.Accounts.Note<T_ALSP_D>(key, "pressure-by-pattern");
+      }
     }
     run.Target.Table<T_NGT_PRSL_D>().Append(load);
   }
@@ -119,6 +148,68 @@ void WritePressures(Conversion& run, Text loadCase, LineWriter& out) {
                       kNoVector, kNoVector, kNoVector, load.bPROJ, load.PU, load.P1, load.P2,
                       load.P3, load.P4);
       });
+}
+
+// ---- Account ----
+
+namespace {
+
+template <class Row>
+void NoteArea(Conversion& run, std::uint32_t key, Text area) {
+  if (const std::optional<Why> why = WhyNotElement(run, area, kAreaFamily)) {
+    run.Accounts.Note<Row>(key, *why);
+  }
+}
+
+void CloseUniformLoads(Conversion& run) {
+  WrittenLoads written(run.Target);
+  const auto& loads = run.Target.Table<T_NGT_PRSL_D>();
+  std::uint32_t place = 0;  // each row of the walk has become a load, the first of the table
+  for (const auto [key, row] : run.Source.Rows<T_ALUM_D>().Walk()) {
+    const T_NGT_PRSL_D& load = *loads.Find(++place);
+    if (!HasLike(row)) {
+      run.Accounts.Note<T_ALUM_D>(key, written.Have(load.LoadCase)
+                                           ? Why("load-before-in-its-place")
+                                           : Why("uniform-load-without-like"));
+    } else if (written.HaveOrNote<T_ALUM_D>(run.Accounts, key, row.LoadCase)) {
+      NoteArea<T_ALUM_D>(run, key, row.Area);
+    }
+  }
+}
+
+void ClosePressures(Conversion& run) {
+  WrittenLoads written(run.Target);
+  for (const auto [key, row] : run.Source.Rows<T_ALSP_D>().Entries()) {
+    if (IsTopOrBottom(row.Face) && written.HaveOrNote<T_ALSP_D>(run.Accounts, key, row.LoadCase)) {
+      NoteArea<T_ALSP_D>(run, key, row.Area);
+    }
+  }
+}
+
+}  // namespace
+
+void CloseAreaLoads(Conversion& run) {
+  CloseUniformLoads(run);
+  ClosePressures(run);
+  run.Accounts.NoteAll<T_ALRT_D>("load-by-rotation");
+  run.Accounts.NoteAll<T_ALUF_D>("area-load-to-frames");
+  run.Accounts.NoteAll<T_ALWP_D>("wind-coefficients-of-area");
+  run.Accounts.NoteAll<T_SLLG_D>("gravity-of-solid");
+  run.Accounts.NoteAll<T_LLDG_D>("gravity-of-link");
+}
+
+void TakePatternsOfPressures(Conversion& run, PatternUses& uses) {
+  WrittenLoads written(run.Target);
+  for (const auto [key, row] : run.Source.Rows<T_ALSP_D>().Entries()) {
+    if (!IsTopOrBottom(row.Face) || !GoesByPattern(row.JtPattern) || !written.Have(row.LoadCase)) {
+      continue;
+    }
+    if (const auto area = run.Source.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(row.Area)) {
+      const T_CNAR_D& corners = area->Value;
+      uses.Take(std::array{corners.Joint1, corners.Joint2, corners.Joint3, corners.Joint4},
+                row.JtPattern);
+    }
+  }
 }
 
 }  // namespace s2k2ngt

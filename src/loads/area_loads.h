@@ -7,6 +7,8 @@
 
 namespace s2k2ngt {
 
+class PatternUses;
+
 // ---- Source rows ----
 
 /// A uniform load on an area: force per area.
@@ -95,5 +97,14 @@ bool ConvertSurfacePressures(Conversion& run);
 
 /// Writes *PRESSURE of a load case.
 void WritePressures(Conversion& run, Text loadCase, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes loads of areas that are not written, or for an area that is not there, and all of kinds
+/// that have no place in the output, those of solids and links too.
+void CloseAreaLoads(Conversion& run);
+
+/// Takes the pattern values that pressures which are written go by.
+void TakePatternsOfPressures(Conversion& run, PatternUses& uses);
 
 }  // namespace s2k2ngt

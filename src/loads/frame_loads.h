@@ -109,4 +109,10 @@ bool ConvertDistributedLoads(Conversion& run);
 /// Writes *BEAMLOAD of a load case.
 void WriteBeamLoads(Conversion& run, Text loadCase, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes loads of frames that are not written, or for a frame that is not there; tendons and their
+/// multipliers too.
+void CloseFrameLoads(Conversion& run);
+
 }  // namespace s2k2ngt

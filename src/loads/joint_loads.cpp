@@ -1,21 +1,56 @@
 #include "loads/joint_loads.h"
 
 #include "joints/local_axes.h"
+#include "loads/load_references.h"
 #include "target/load_frame.h"
 
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 
 namespace s2k2ngt {
 
 // ---- Conversion ----
 
+namespace {
+
+constexpr Text kGlobal = "GLOBAL";
+constexpr Text kLocal = "Local";
+
+/// True when three components are shorter than they were before they were turned: one of them was
+/// near zero and has become 0. What cosines add and take is less.
+bool AreShortened(const SixComponents& before, const SixComponents& after, std::size_t first) {
+  const auto squaredLength = [first](const SixComponents& v) {
+    return v[first] * v[first] + v[first + 1] * v[first + 1] + v[first + 2] * v[first + 2];
+  };
+  constexpr double kRounding = 1e-9;
+  return squaredLength(after) < squaredLength(before) * (1.0 - kRounding);
+}
+
+/// Notes what a row loses on the way to the axes of the target.
+template <class Row>
+void NoteTurn(Conversion& run, std::uint32_t key, const Row& row, const SixComponents& before,
+              const SixComponents& after) {
+  if (!row.CoordSys.empty() && row.CoordSys != kGlobal && row.CoordSys != kLocal) {
+    run.Accounts.Note<Row>(key, "coordinate-system-ignored");
+  }
+  if (AreShortened(before, after, 0) || AreShortened(before, after, 3)) {
+    run.Accounts.Note<Row>(key, "component-near-zero");
+  }
+}
+
+}  // namespace
+
 bool ConvertJointForces(Conversion& run) {
   ReserveForRows<T_NGT_NDLD_D, T_JTLF_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_JTLF_D>().Walk()) {
-    SixComponents f = {row.F1, row.F2, row.F3, row.M1, row.M2, row.M3};
+    const SixComponents stated = {row.F1, row.F2, row.F3, row.M1, row.M2, row.M3};
     // Any other system is taken as global.
-    if (row.CoordSys == "Local") {
-      f = TurnToGlobal(run.Target, row.Joint, f);
+    const SixComponents f =
+        row.CoordSys == kLocal ? TurnToGlobal(run.Target, row.Joint, stated) : stated;
+    if (run.Accounts.IsKept()) {
+      NoteTurn(run, key, row, stated, f);
     }
     run.Target.Add(key, T_NGT_NDLD_D{row.Joint, row.LoadCase, f[0], f[1], f[2], f[3], f[4], f[5]});
   }
@@ -27,11 +62,13 @@ bool ConvertGroundDisplacements(Conversion& run) {
   const auto flag = [](double value) { return std::abs(value) >= kTolerance ? '1' : '0'; };
   ReserveForRows<T_NGT_DISP_D, T_JTGD_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_JTGD_D>().Walk()) {
-    SixComponents d = {row.U1, row.U2, row.U3, row.R1, row.R2, row.R3};
+    const SixComponents stated = {row.U1, row.U2, row.U3, row.R1, row.R2, row.R3};
     // The target displaces a support along its node's axes, the source by this name along the
     // global ones.
-    if (row.CoordSys == "GLOBAL") {
-      d = TurnToLocal(run.Target, row.Joint, d);
+    const SixComponents d =
+        row.CoordSys == kGlobal ? TurnToLocal(run.Target, row.Joint, stated) : stated;
+    if (run.Accounts.IsKept()) {
+      NoteTurn(run, key, row, stated, d);
     }
     run.Target.Add(
         key, T_NGT_DISP_D{row.Joint,
@@ -70,6 +107,30 @@ void WriteSupportDisplacements(Conversion& run, Text loadCase, LineWriter& out) 
                       run.Target.NodeNumber(load.Joint), Text(load.FLAG.data(), load.FLAG.size()),
                       load.Dx, load.Dy, load.Dz, load.Rx, load.Ry, load.Rz);
       });
+}
+
+// ---- Account ----
+
+namespace {
+
+template <class Row>
+void CloseRows(Conversion& run) {
+  WrittenLoads written(run.Target);
+  for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
+    if (!written.HaveOrNote<Row>(run.Accounts, key, row.LoadCase)) {
+      continue;
+    }
+    if (const std::optional<Why> why = WhyNotJoint(run, row.Joint)) {
+      run.Accounts.Note<Row>(key, *why);
+    }
+  }
+}
+
+}  // namespace
+
+void CloseJointLoads(Conversion& run) {
+  CloseRows<T_JTLF_D>(run);
+  CloseRows<T_JTGD_D>(run);
 }
 
 }  // namespace s2k2ngt

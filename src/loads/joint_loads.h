@@ -104,4 +104,9 @@ void WriteNodalLoads(Conversion& run, Text loadCase, LineWriter& out);
 /// Writes *SPDISP of a load case.
 void WriteSupportDisplacements(Conversion& run, Text loadCase, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes loads of joints that are not written, or for a joint that is not there.
+void CloseJointLoads(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -3,6 +3,10 @@
 #include "common/text.h"
 #include "source/model.h"
 #include "source/row_grammar.h"
+#include "target/conversion.h"
+
+#include <span>
+#include <vector>
 
 namespace s2k2ngt {
 
@@ -26,10 +30,30 @@ inline constexpr RowKey<T_JTPA_D> kRowKeys<T_JTPA_D>[] = {
 inline bool GoesByPattern(Text jtPattern) { return jtPattern != "None"; }
 
 /// 0 where the pattern has no value at the joint.
-inline double PatternValue(CModel& model, Text joint, Text pattern) {
-  const auto row =
-      model.Rows<T_JTPA_D>().FirstWith<&T_JTPA_D::JointInPattern>(QualifiedLabel{joint, pattern});
-  return row ? row->Value.Value : 0.0;
-}
+double PatternValue(CModel& model, Text joint, Text pattern);
+
+// ---- Account ----
+
+/// True when a joint has a value in the pattern.
+bool HasPattern(CModel& model, Text pattern);
+
+/// Which values the loads take that are written.
+class PatternUses {
+ public:
+  explicit PatternUses(CModel& model);
+
+  /// Takes the values of a pattern at these joints.
+  void Take(std::span<const Text> joints, Text pattern);
+
+  /// Notes all values that were not taken.
+  void NoteOthers(Ledger& accounts) const;
+
+ private:
+  const CKeyedTable<T_JTPA_D>& m_Values;
+  std::vector<bool> m_IsTaken;  // by key
+};
+
+/// Notes the values that no load takes.
+void CloseJointPatterns(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -93,4 +93,75 @@ void WriteSelfWeights(Conversion& run, Text loadCase, LineWriter& out) {
       });
 }
 
+// ---- Account ----
+
+namespace {
+
+/// True when parameters of wind or earthquake are written for the load.
+bool HasParameters(CNgtModel& target, Text load) {
+  const auto are = [load]<class Parameters>(const CKeyedTable<Parameters>& table) {
+    return table.template FirstWith<&Parameters::LoadCase>(load).has_value();
+  };
+  return are(target.Table<T_NGT_WUB7_D>()) || are(target.Table<T_NGT_WIBC_D>()) ||
+         are(target.Table<T_NGT_WNBC_D>()) || are(target.Table<T_NGT_SUB7_D>()) ||
+         are(target.Table<T_NGT_SNBC_D>());
+}
+
+/// Notes what the load case of a load does not say of it.
+void NoteLoad(Conversion& run, std::uint32_t key, const T_LDCS_D& load, Text LCTYPE) {
+  const auto first = run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(load.LoadCase);
+  if (first->Key != key) {
+    run.Accounts.Note<T_LDCS_D>(key, IsAboveTolerance(load.SelfWtMult)
+                                         ? Why("load-defined-again-with-weight")
+                                         : Why("load-defined-again"));
+    return;
+  }
+  if (LCTYPE == "USER" && load.DesignType != "OTHER") {
+    run.Accounts.Note<T_LDCS_D>(key, "design-type-without-like");
+  }
+  const bool statesCode = !load.AutoLoad.empty() && load.AutoLoad != kNoAutoLoad;
+  if (statesCode && !HasParameters(run.Target, load.LoadCase)) {
+    run.Accounts.Note<T_LDCS_D>(key, "automatic-load-not-written");
+  }
+}
+
+/// Notes what a load case does not say of the row that it comes of.
+void NoteStaticCase(Conversion& run, std::uint32_t key, const T_STC1_D& row) {
+  const auto& loadCases = run.Target.Table<T_NGT_STLC_D>();
+  if (loadCases.FirstWith<&T_NGT_STLC_D::LCNAME>(row.LoadName)->Key != key) {
+    run.Accounts.Note<T_STC1_D>(key, "load-named-again");
+  }
+  if (!run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(row.LoadName)) {
+    run.Accounts.Note<T_STC1_D>(key, "load-unknown");
+  }
+  if (row.LoadSF != 1.0) {
+    run.Accounts.Note<T_STC1_D>(key, "load-scale-factor");
+  }
+  if (run.Source.Rows<T_STC1_D>().AllWith<&T_STC1_D::Case>(row.Case).size() > 1) {
+    run.Accounts.Note<T_STC1_D>(key, "case-of-several-loads");
+  } else if (row.Case != row.LoadName) {
+    run.Accounts.Note<T_STC1_D>(key, "case-of-another-name");
+  }
+}
+
+}  // namespace
+
+void CloseLoadCases(Conversion& run) {
+  const auto& loadCases = run.Target.Table<T_NGT_STLC_D>();
+  for (const auto [key, load] : run.Source.Rows<T_LDCS_D>().Entries()) {
+    if (const auto found = loadCases.FirstWith<&T_NGT_STLC_D::LCNAME>(load.LoadCase)) {
+      NoteLoad(run, key, load, found->Value.LCTYPE);
+    } else {
+      run.Accounts.Note<T_LDCS_D>(key, "load-case-not-static");
+    }
+  }
+  for (const auto [key, row] : run.Source.Rows<T_STC1_D>().Entries()) {
+    if (loadCases.Find(key) == nullptr) {
+      run.Accounts.Note<T_STC1_D>(key, "analysis-case-not-static");
+    } else {
+      NoteStaticCase(run, key, row);
+    }
+  }
+}
+
 }  // namespace s2k2ngt

@@ -31,13 +31,14 @@ struct T_STC1_D {
   static constexpr Text kTable = "T_STC1_D";
   Text Case;
   Text LoadName;
+  double LoadSF = 1.0;
 };
 
 template <>
 inline constexpr RowKey<T_STC1_D> kRowKeys<T_STC1_D>[] = {{"Case=", &T_STC1_D::Case},
                                                           Unread{"LoadType="},
                                                           {"LoadName=", &T_STC1_D::LoadName},
-                                                          Unread{"LoadSF="},
+                                                          Noted{"LoadSF=", &T_STC1_D::LoadSF},
                                                           Unread{"TransAccSF="}};
 
 // ---- Target records ----
@@ -78,5 +79,10 @@ void WriteLoadCases(Conversion& run, LineWriter& out);
 
 /// Writes the *SELFWEIGHT lines of a load case.
 void WriteSelfWeights(Conversion& run, Text loadCase, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes loads that become no load case, and what load cases do not say of them.
+void CloseLoadCases(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -3,13 +3,17 @@
 #include "frames/elements.h"
 #include "frames/sections.h"
 #include "loads/joint_patterns.h"
+#include "loads/load_references.h"
 #include "plates/areas.h"
 #include "plates/solids.h"
 #include "target/load_frame.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <type_traits>
+#include <vector>
 
 namespace s2k2ngt {
 
@@ -17,14 +21,25 @@ namespace s2k2ngt {
 
 namespace {
 
-/// Degrees Celsius of a temperature of the source file. A unit that is neither "C" nor "F" gives 0.
-double ToCelsius(const Units& units, double temperature) {
+enum class Degrees { Celsius, Fahrenheit, Unknown };
+
+Degrees DegreesOf(const Units& units) {
   const Text unit = TrimLeft(TrimRight(units.Temperature));
   if (unit == "C") {
-    return temperature;
+    return Degrees::Celsius;
   }
-  if (unit == "F") {
-    return (temperature - 32) * 5 / 9;
+  return unit == "F" ? Degrees::Fahrenheit : Degrees::Unknown;
+}
+
+/// Degrees Celsius of a temperature of the source file. A unit that is neither "C" nor "F" gives 0.
+double ToCelsius(const Units& units, double temperature) {
+  switch (DegreesOf(units)) {
+    case Degrees::Celsius:
+      return temperature;
+    case Degrees::Fahrenheit:
+      return (temperature - 32) * 5 / 9;
+    case Degrees::Unknown:
+      break;
   }
   return 0.0;
 }
@@ -45,46 +60,103 @@ void AddNodalTemperature(CNgtModel& target, Text joint, Text loadCase, double te
   nodes.Insert(key, {joint, loadCase, temperature});
 }
 
+/// The element of a row of temperature loads.
+Text ElementOf(const T_FRLT_D& row) { return row.Frame; }
+Text ElementOf(const T_ALTM_D& row) { return row.Area; }
+Text ElementOf(const T_SLLT_D& row) { return row.Solid; }
+
+/// True for a temperature, and not a gradient or none of both.
+bool IsTemperature(const T_FRLT_D& row) { return row.Type == "Temperature"; }
+bool IsTemperature(const T_ALTM_D& row) { return row.Type == "Temperature"; }
+bool IsTemperature(const T_SLLT_D& /*row*/) { return true; }
+
+/// The places for joints of the element.
+std::array<Text, 2> JointsOf(CModel& model, const T_FRLT_D& row) {
+  const T_CNFR_D frame = ConnectivityOrLast(model, row.Frame);
+  return {frame.JointI, frame.JointJ};
+}
+std::array<Text, 4> JointsOf(CModel& model, const T_ALTM_D& row) {
+  const auto found = model.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(row.Area);
+  const T_CNAR_D area = found ? found->Value : T_CNAR_D{};
+  return {area.Joint1, area.Joint2, area.Joint3, area.Joint4};
+}
+std::array<Text, 8> JointsOf(CModel& model, const T_SLLT_D& row) {
+  const auto found = model.Rows<T_CNSL_D>().FirstWith<&T_CNSL_D::Solid>(row.Solid);
+  return JointsOf(found ? found->Value : T_CNSL_D{});
+}
+
 /// The temperature loads of one family of elements.
 class TemperatureStep {
  public:
-  TemperatureStep(Conversion& run, Text family) : m_Run(run), m_Family(family) {}
+  TemperatureStep(Conversion& run, Text family)
+      : m_Run(run), m_Family(family), m_Degrees(DegreesOf(run.Source.CurrentUnits())) {}
 
   /// Takes the reference temperature of the element whose loads come next. Meant so: without one,
   /// that of an earlier element stays.
-  template <auto Label, class Record>
-  void TakeReference(const CKeyedTable<Record>& references, Text element) {
-    if (const auto found = references.template FirstWith<Label>(element)) {
+  template <auto Label, class Row, class Record>
+  void TakeReference(std::uint32_t key, const Row& row, const CKeyedTable<Record>& references) {
+    if (const auto found = references.template FirstWith<Label>(ElementOf(row))) {
       m_Reference = ToCelsius(m_Run.Source.CurrentUnits(), found->Value.Temp);
+    } else if (m_Reference != 0.0) {
+      m_Run.Accounts.Note<Row>(key, "reference-of-another-element");
+    } else if (m_Degrees == Degrees::Fahrenheit) {
+      m_Run.Accounts.Note<Row>(key, "reference-missing");
     }
   }
 
-  /// Adds the temperature of an element, of which `jointsOf` gives the joints. By a joint pattern
-  /// it is the mean of temperatures at the joints, which become nodal temperatures.
-  template <class Row, class JointsOf>
-  void AddTemperature(const Row& row, Text element, JointsOf jointsOf) {
-    const double temperature =
-        GoesByPattern(row.JtPattern)
-            ? MeanOverJoints(row.LoadCase, row.Temp, row.JtPattern, jointsOf())
-            : ToCelsius(m_Run.Source.CurrentUnits(), row.Temp) - m_Reference;
-    m_Run.Target.Table<T_NGT_ELMT_D>().Append({element, row.LoadCase, m_Family, temperature});
+  /// Adds the temperature of an element. By a joint pattern it is the mean of temperatures at its
+  /// joints, which become nodal temperatures.
+  template <class Row>
+  void AddTemperature(std::uint32_t key, const Row& row) {
+    if (m_Degrees == Degrees::Unknown) {
+      m_Run.Accounts.Note<Row>(key, "temperature-unit-unknown");
+    }
+    double temperature = 0.0;
+    if (GoesByPattern(row.JtPattern)) {
+      const auto joints = JointsOf(m_Run.Source, row);
+      NotePattern(key, row, joints);
+      temperature = MeanOverJoints(row.LoadCase, row.Temp, row.JtPattern, joints);
+    } else {
+      temperature = ToCelsius(m_Run.Source.CurrentUnits(), row.Temp) - m_Reference;
+    }
+    m_Run.Target.Table<T_NGT_ELMT_D>().Append(
+        {ElementOf(row), row.LoadCase, m_Family, temperature});
   }
 
   // Meant so: what one gradient sets stays for those behind it, so that a gradient along axis 2
   // comes again with the next element's along axis 3.
 
-  void AddGradientZ(Text element, Text loadCase, double difference) {
-    m_Gradient.TZ = difference;
+  template <class Row>
+  void AddGradientZ(std::uint32_t key, const Row& row, double gradient, double depth) {
+    NoteGradient(key, row, gradient, depth, m_Gradient.TY);
+    m_Gradient.TZ = gradient * kDegreesOfGradient * depth;
     m_Gradient.bUSEHZ = "YES";
-    AddGradient(element, loadCase);
+    AddGradient(ElementOf(row), row.LoadCase);
   }
-  void AddGradientY(Text element, Text loadCase, double difference) {
-    m_Gradient.TY = difference;
+  /// The target's axis y is the source's axis 3 turned around.
+  template <class Row>
+  void AddGradientY(std::uint32_t key, const Row& row, double gradient, double width) {
+    NoteGradient(key, row, gradient, width, m_Gradient.TZ);
+    m_Gradient.TY = -(gradient * kDegreesOfGradient * width);
     m_Gradient.bUSEHY = "YES";
-    AddGradient(element, loadCase);
+    AddGradient(ElementOf(row), row.LoadCase);
   }
 
  private:
+  /// Notes what becomes of a temperature by a joint pattern.
+  template <class Row, std::size_t Count>
+  void NotePattern(std::uint32_t key, const Row& row, const std::array<Text, Count>& joints) {
+    if (!m_Run.Accounts.IsKept()) {
+      return;
+    }
+    m_Run.Accounts.Note<Row>(key, HasPattern(m_Run.Source, row.JtPattern)
+                                      ? Why("temperature-by-pattern")
+                                      : Why("pattern-unknown"));
+    if (std::ranges::count(joints, Text()) > 0) {
+      m_Run.Accounts.Note<Row>(key, "pattern-on-fewer-joints");
+    }
+  }
+
   /// The mean is over all places for joints, so that a triangle counts a fourth joint, whose label
   /// is empty.
   template <std::size_t Count>
@@ -100,6 +172,24 @@ class TemperatureStep {
     return sum / Count;
   }
 
+  /// Notes what becomes of a gradient; `other` is the one in the other direction that stands.
+  template <class Row>
+  void NoteGradient(std::uint32_t key, const Row& row, double gradient, double depth,
+                    double other) {
+    if (gradient != 0.0 && depth == 0.0) {
+      m_Run.Accounts.Note<Row>(key, "gradient-without-depth");
+    }
+    if (gradient != 0.0 && m_Degrees != Degrees::Fahrenheit) {
+      m_Run.Accounts.Note<Row>(key, "gradient-not-per-fahrenheit");
+    }
+    if (GoesByPattern(row.JtPattern) && !row.JtPattern.empty()) {
+      m_Run.Accounts.Note<Row>(key, "gradient-by-pattern");
+    }
+    if (other != 0.0) {
+      m_Run.Accounts.Note<Row>(key, "gradient-of-another-beside-it");
+    }
+  }
+
   void AddGradient(Text element, Text loadCase) {
     m_Gradient.Element = element;
     m_Gradient.LoadCase = loadCase;
@@ -109,6 +199,7 @@ class TemperatureStep {
 
   Conversion& m_Run;
   Text m_Family;
+  Degrees m_Degrees;
   double m_Reference = 0.0;
   T_NGT_TMPG_D m_Gradient;
 };
@@ -138,21 +229,16 @@ double ThicknessOf(CModel& model, Text area) {
 
 bool ConvertFrameTemperatures(Conversion& run) {
   TemperatureStep step(run, kFrameFamily);
-  for (const auto entry : run.Source.Rows<T_FRLT_D>().Walk()) {
-    const T_FRLT_D& row = entry.Value;
-    if (row.Type == "Temperature") {
-      step.TakeReference<&T_FRRT_D::Frame>(run.Source.Rows<T_FRRT_D>(), row.Frame);
-      step.AddTemperature(row, row.Frame, [&] {
-        const T_CNFR_D frame = ConnectivityOrLast(run.Source, row.Frame);
-        return std::array{frame.JointI, frame.JointJ};
-      });
+  for (const auto [key, row] : run.Source.Rows<T_FRLT_D>().Walk()) {
+    if (IsTemperature(row)) {
+      step.TakeReference<&T_FRRT_D::Frame>(key, row, run.Source.Rows<T_FRRT_D>());
+      step.AddTemperature(key, row);
     } else if (row.Type == "Gradient2") {
-      const double depth = SectionOf(run.Source, row.Frame).t3;
-      step.AddGradientZ(row.Frame, row.LoadCase, row.TempGrad2 * kDegreesOfGradient * depth);
+      step.AddGradientZ(key, row, row.TempGrad2, SectionOf(run.Source, row.Frame).t3);
     } else if (row.Type == "Gradient3") {
-      // The target's axis y is the source's axis 3 turned around.
-      const double width = SectionOf(run.Source, row.Frame).t2;
-      step.AddGradientY(row.Frame, row.LoadCase, -(row.TempGrad3 * kDegreesOfGradient * width));
+      step.AddGradientY(key, row, row.TempGrad3, SectionOf(run.Source, row.Frame).t2);
+    } else {
+      run.Accounts.Note<T_FRLT_D>(key, "temperature-type-unknown");
     }
   }
   return true;
@@ -160,18 +246,15 @@ bool ConvertFrameTemperatures(Conversion& run) {
 
 bool ConvertAreaTemperatures(Conversion& run) {
   TemperatureStep step(run, kAreaFamily);
-  for (const auto entry : run.Source.Rows<T_ALTM_D>().Walk()) {
-    const T_ALTM_D& row = entry.Value;
-    if (row.Type == "Temperature") {
-      step.TakeReference<&T_AMRT_D::Area>(run.Source.Rows<T_AMRT_D>(), row.Area);
-      step.AddTemperature(row, row.Area, [&] {
-        const auto found = run.Source.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(row.Area);
-        const T_CNAR_D area = found ? found->Value : T_CNAR_D{};
-        return std::array{area.Joint1, area.Joint2, area.Joint3, area.Joint4};
-      });
+  for (const auto [key, row] : run.Source.Rows<T_ALTM_D>().Walk()) {
+    if (IsTemperature(row)) {
+      step.TakeReference<&T_AMRT_D::Area>(key, row, run.Source.Rows<T_AMRT_D>());
+      step.AddTemperature(key, row);
     } else {
-      const double thickness = ThicknessOf(run.Source, row.Area);
-      step.AddGradientZ(row.Area, row.LoadCase, row.TempGrad3 * kDegreesOfGradient * thickness);
+      if (row.Temp != 0.0) {
+        run.Accounts.Note<T_ALTM_D>(key, "temperature-taken-as-gradient");
+      }
+      step.AddGradientZ(key, row, row.TempGrad3, ThicknessOf(run.Source, row.Area));
     }
   }
   return true;
@@ -179,13 +262,9 @@ bool ConvertAreaTemperatures(Conversion& run) {
 
 bool ConvertSolidTemperatures(Conversion& run) {
   TemperatureStep step(run, kSolidFamily);
-  for (const auto entry : run.Source.Rows<T_SLLT_D>().Walk()) {
-    const T_SLLT_D& row = entry.Value;
-    step.TakeReference<&T_SLRT_D::Solid>(run.Source.Rows<T_SLRT_D>(), row.Solid);
-    step.AddTemperature(row, row.Solid, [&] {
-      const auto found = run.Source.Rows<T_CNSL_D>().FirstWith<&T_CNSL_D::Solid>(row.Solid);
-      return JointsOf(found ? found->Value : T_CNSL_D{});
-    });
+  for (const auto [key, row] : run.Source.Rows<T_SLLT_D>().Walk()) {
+    step.TakeReference<&T_SLRT_D::Solid>(key, row, run.Source.Rows<T_SLRT_D>());
+    step.AddTemperature(key, row);
   }
   return true;
 }
@@ -231,6 +310,93 @@ void WriteTemperatureGradients(Conversion& run, Text loadCase, LineWriter& out) 
                       elements.NumberOf(load.Element, load.Family), iETYP, load.TZ, load.bUSEHZ,
                       kNoDepth, load.TY, load.bUSEHY, kNoDepth);
       });
+}
+
+// ---- Account ----
+
+namespace {
+
+/// True for a row that goes by the joints of the last frame, as its own is not there.
+/// Areas and solids have no such neighbour.
+template <class Row>
+bool TakesJointsOfLast(CModel& model, const Row& row) {
+  if constexpr (requires { row.Frame; }) {
+    return IsTemperature(row) && GoesByPattern(row.JtPattern) && TakesLastFrame(model, row.Frame);
+  }
+  return false;
+}
+
+/// Notes a row that is not written, or for an element that is not there, and tells whether it is
+/// written.
+template <class Row>
+bool NoteReferences(Conversion& run, WrittenLoads& written, std::uint32_t key, const Row& row,
+                    Text family) {
+  if (std::is_same_v<Row, T_ALTM_D> && row.LoadCase.empty() && !written.Have({})) {
+    run.Accounts.Note<Row>(key, "temperature-without-load-case");
+    return false;
+  }
+  if (!written.HaveOrNote<Row>(run.Accounts, key, row.LoadCase)) {
+    return false;
+  }
+  if (const std::optional<Why> why = WhyNotElement(run, ElementOf(row), family)) {
+    run.Accounts.Note<Row>(key, *why);
+    if (TakesJointsOfLast(run.Source, row)) {
+      run.Accounts.Note<Row>(key, "last-frame-for-unknown");
+    }
+  }
+  return true;
+}
+
+/// Closes the temperature loads of a family, and the reference temperatures that name its elements
+/// in this field.
+template <class Row, auto Label, class Reference>
+void CloseFamily(Conversion& run, Text family, const CKeyedTable<Reference>& references) {
+  WrittenLoads written(run.Target);
+  std::vector<bool> isUsed(references.Count() + 1);  // by key
+  for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
+    if (NoteReferences(run, written, key, row, family) && IsTemperature(row)) {
+      if (const auto reference = references.template FirstWith<Label>(ElementOf(row))) {
+        isUsed[reference->Key] = true;
+      }
+    }
+  }
+  const bool isUnitKnown = DegreesOf(run.Source.CurrentUnits()) != Degrees::Unknown;
+  for (std::uint32_t key = 1; key < isUsed.size(); ++key) {
+    if (!isUsed[key]) {
+      run.Accounts.Note<Reference>(key, "reference-not-used");
+    } else if (!isUnitKnown) {
+      run.Accounts.Note<Reference>(key, "temperature-unit-unknown");
+    }
+  }
+}
+
+template <class Row>
+void TakePatterns(Conversion& run, PatternUses& uses) {
+  WrittenLoads written(run.Target);
+  for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
+    if (IsTemperature(row) && GoesByPattern(row.JtPattern) && written.Have(row.LoadCase)) {
+      uses.Take(JointsOf(run.Source, row), row.JtPattern);
+    }
+  }
+}
+
+}  // namespace
+
+void CloseTemperatureLoads(Conversion& run) {
+  CloseFamily<T_FRLT_D, &T_FRRT_D::Frame>(run, kFrameFamily, run.Source.Rows<T_FRRT_D>());
+  CloseFamily<T_ALTM_D, &T_AMRT_D::Area>(run, kAreaFamily, run.Source.Rows<T_AMRT_D>());
+  CloseFamily<T_SLLT_D, &T_SLRT_D::Solid>(run, kSolidFamily, run.Source.Rows<T_SLRT_D>());
+  run.Accounts.NoteAll<T_AMMT_D>("material-temperature");
+  run.Accounts.NoteAll<T_SLPT_D>("material-temperature");
+}
+
+void TakePatternsOfTemperatures(Conversion& run, PatternUses& uses) {
+  if (DegreesOf(run.Source.CurrentUnits()) == Degrees::Unknown) {
+    return;  // all temperatures are 0, whatever the patterns
+  }
+  TakePatterns<T_FRLT_D>(run, uses);
+  TakePatterns<T_ALTM_D>(run, uses);
+  TakePatterns<T_SLLT_D>(run, uses);
 }
 
 }  // namespace s2k2ngt

@@ -9,6 +9,8 @@
 
 namespace s2k2ngt {
 
+class PatternUses;
+
 // ---- Source rows ----
 
 /// Temperature load of a frame.
@@ -145,5 +147,14 @@ void WriteNodalTemperatures(Conversion& run, Text loadCase, LineWriter& out);
 
 /// Writes *THERGRAD of a load case.
 void WriteTemperatureGradients(Conversion& run, Text loadCase, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes temperature loads that are not written, or for an element that is not there, and
+/// temperatures that no load counts from.
+void CloseTemperatureLoads(Conversion& run);
+
+/// Takes the pattern values that temperatures which are written go by.
+void TakePatternsOfTemperatures(Conversion& run, PatternUses& uses);
 
 }  // namespace s2k2ngt

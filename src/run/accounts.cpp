@@ -10,6 +10,12 @@
 #include "analysis/spectrum.h"
 #include "analysis/structure.h"
 #include "analysis/time_functions.h"
+#include "loads/area_loads.h"
+#include "loads/frame_loads.h"
+#include "loads/joint_loads.h"
+#include "loads/joint_patterns.h"
+#include "loads/load_cases.h"
+#include "loads/temperature_loads.h"
 #include "loads/wind_seismic.h"
 #include "plates/areas.h"
 #include "plates/links.h"
@@ -44,20 +50,11 @@ bool HasNoModelData(Text title) {
 
 /// The closing notes of the rooms, in the order of the source's topics.
 constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
-    CloseAreas,
-    CloseSolids,
-    CloseLinks,
-    CloseAutoLoads,
-    CloseStructure,
-    CloseAnalysisCases,
-    CloseModal,
-    CloseBuckling,
-    CloseSpectrum,
-    CloseTimeFunctions,
-    CloseHistoryDamping,
-    CloseHistoryLoads,
-    CloseTimeHistories,
-    CloseCombinations,
+    CloseAreas,         CloseSolids,        CloseLinks,          CloseAutoLoads,
+    CloseStructure,     CloseAnalysisCases, CloseModal,          CloseBuckling,
+    CloseSpectrum,      CloseTimeFunctions, CloseHistoryDamping, CloseHistoryLoads,
+    CloseTimeHistories, CloseCombinations,  CloseLoadCases,      CloseJointLoads,
+    CloseJointPatterns, CloseFrameLoads,    CloseAreaLoads,      CloseTemperatureLoads,
 });
 
 }  // namespace

@@ -56,6 +56,17 @@ struct Unread {
   KeyName Name;
 };
 
+/// A key of which the conversion has no use either, but the account, which tells that its value is
+/// lost.
+template <class Record>
+struct Noted {
+  KeyName Name;
+  double Record::*Target;
+};
+
+template <class Record>
+Noted(const char*, double Record::*) -> Noted<Record>;
+
 /// A key whose value goes into a field. The field's type says how the value is read: a Text as it
 /// stands, a double as a number, an int32_t as a number without its fraction, a bool as true for
 /// "Yes" alone.
@@ -73,6 +84,8 @@ class RowKey {
   constexpr RowKey(States<Record> key)
       : m_Name(key.Name), m_Kind(Kind::Stated), m_Flag(key.Target) {}
   constexpr RowKey(Unread key) : m_Name(key.Name), m_Kind(Kind::Unread) {}
+  constexpr RowKey(Noted<Record> key)
+      : m_Name(key.Name), m_Kind(Kind::Real), m_IsConverted(false), m_Real(key.Target) {}
 
   /// A key of the part that the record has in common with others.
   template <class Common>
@@ -80,6 +93,7 @@ class RowKey {
   constexpr RowKey(const RowKey<Common>& key)
       : m_Name(key.m_Name),
         m_Kind(static_cast<Kind>(key.m_Kind)),
+        m_IsConverted(key.m_IsConverted),
         m_Text(key.m_Text),
         m_Real(key.m_Real),
         m_Integer(key.m_Integer),
@@ -91,6 +105,8 @@ class RowKey {
 
   /// What a record has of a key that is a text.
   Text TextOf(const Record& record) const { return record.*m_Text; }
+  /// Whether the conversion has a use for it.
+  constexpr bool IsConverted() const { return IsRead() && m_IsConverted; }
 
   /// Puts the value that a row states for the key into its field.
   void Store(Text value, TextStore& store, Record& record) const {
@@ -131,6 +147,7 @@ class RowKey {
 
   Text m_Name;
   Kind m_Kind;
+  bool m_IsConverted = true;
   // The field, under its type.
   Text Record::*m_Text = nullptr;
   double Record::*m_Real = nullptr;
@@ -180,7 +197,7 @@ inline constexpr auto kKeyUses = [] {
   std::array<KeyUse, std::size(kRowKeys<Record>)> uses{};
   std::size_t index = 0;
   for (const RowKey<Record>& key : kRowKeys<Record>) {
-    uses[index++] = {key.Name(), key.IsRead()};
+    uses[index++] = {key.Name(), key.IsConverted()};
   }
   return uses;
 }();
