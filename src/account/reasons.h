@@ -416,10 +416,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Enter the load on the frames in the host, as a floor load or as beam loads."),
     reasons::Dropped("wind-coefficients-of-area", "Wind coefficients of areas are not converted.",
                      "Enter the wind pressure in the host."),
-    reasons::Dropped("gravity-of-solid", "Gravity loads of solids are not converted.",
-                     "Enter the load in the host, as self weight or as body forces."),
-    reasons::Dropped("gravity-of-link", "Gravity loads of links are not converted.",
-                     "Enter the weight of the link in the host, as nodal loads."),
 
     reasons::Changed("temperature-unit-unknown",
                      "The temperature unit of the file is neither C nor F: a temperature of 0 is "

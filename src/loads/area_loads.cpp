@@ -4,8 +4,6 @@
 #include "loads/load_direction.h"
 #include "loads/load_references.h"
 #include "plates/areas.h"
-#include "plates/links.h"
-#include "plates/solids.h"
 #include "target/load_frame.h"
 
 #include <array>
@@ -194,8 +192,6 @@ void CloseAreaLoads(Conversion& run) {
   run.Accounts.NoteAll<T_ALRT_D>("load-by-rotation");
   run.Accounts.NoteAll<T_ALUF_D>("area-load-to-frames");
   run.Accounts.NoteAll<T_ALWP_D>("wind-coefficients-of-area");
-  run.Accounts.NoteAll<T_SLLG_D>("gravity-of-solid");
-  run.Accounts.NoteAll<T_LLDG_D>("gravity-of-link");
 }
 
 void TakePatternsOfPressures(Conversion& run, PatternUses& uses) {

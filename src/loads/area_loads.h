@@ -101,7 +101,7 @@ void WritePressures(Conversion& run, Text loadCase, LineWriter& out);
 // ---- Account ----
 
 /// Notes loads of areas that are not written, or for an area that is not there, and all of kinds
-/// that have no place in the output, those of solids and links too.
+/// that have no place in the output.
 void CloseAreaLoads(Conversion& run);
 
 /// Takes the pattern values that pressures which are written go by.

@@ -387,7 +387,6 @@ void CloseTemperatureLoads(Conversion& run) {
   CloseFamily<T_ALTM_D, &T_AMRT_D::Area>(run, kAreaFamily, run.Source.Rows<T_AMRT_D>());
   CloseFamily<T_SLLT_D, &T_SLRT_D::Solid>(run, kSolidFamily, run.Source.Rows<T_SLRT_D>());
   run.Accounts.NoteAll<T_AMMT_D>("material-temperature");
-  run.Accounts.NoteAll<T_SLPT_D>("material-temperature");
 }
 
 void TakePatternsOfTemperatures(Conversion& run, PatternUses& uses) {

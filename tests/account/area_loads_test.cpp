@@ -161,9 +161,6 @@ INSTANTIATE_TEST_SUITE_P(
                     LoadWithoutLike{"AREA LOADS - UNIFORM TO FRAME", "area-load-to-frames"},
                     LoadWithoutLike{"AREA LOADS - WIND PRESSURE COEFFICIENTS",
                                     "wind-coefficients-of-area"},
-                    LoadWithoutLike{"SOLID LOADS - GRAVITY", "gravity-of-solid"},
-                    LoadWithoutLike{"LINK LOADS - GRAVITY", "gravity-of-link"},
-                    LoadWithoutLike{"AREA MATERIAL ASSIGNMENTS", "material-temperature"},
-                    LoadWithoutLike{"SOLID MATERIAL TEMPERATURES", "material-temperature"}));
+                    LoadWithoutLike{"AREA MATERIAL ASSIGNMENTS", "material-temperature"}));
 
 }  // namespace
