@@ -58,14 +58,14 @@ struct Unread {
 
 /// A key of which the conversion has no use either, but the account, which tells that its value is
 /// lost.
-template <class Record>
+template <class Record, class Field>
 struct Noted {
   KeyName Name;
-  double Record::*Target;
+  Field Record::*Target;
 };
 
-template <class Record>
-Noted(const char*, double Record::*) -> Noted<Record>;
+template <class Record, class Field>
+Noted(const char*, Field Record::*) -> Noted<Record, Field>;
 
 /// A key whose value goes into a field. The field's type says how the value is read: a Text as it
 /// stands, a double as a number, an int32_t as a number without its fraction, a bool as true for
@@ -84,8 +84,10 @@ class RowKey {
   constexpr RowKey(States<Record> key)
       : m_Name(key.Name), m_Kind(Kind::Stated), m_Flag(key.Target) {}
   constexpr RowKey(Unread key) : m_Name(key.Name), m_Kind(Kind::Unread) {}
-  constexpr RowKey(Noted<Record> key)
-      : m_Name(key.Name), m_Kind(Kind::Real), m_IsConverted(false), m_Real(key.Target) {}
+  template <class Field>
+  constexpr RowKey(Noted<Record, Field> key) : RowKey(key.Name, key.Target) {
+    m_IsConverted = false;
+  }
 
   /// A key of the part that the record has in common with others.
   template <class Common>
