@@ -5,6 +5,7 @@
 #include "frames/sections.h"
 #include "joints/nodes.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <unordered_map>
@@ -95,6 +96,13 @@ double AngleTowards(Text localPlane, Text direction, double angle) {
   return angle;
 }
 
+constexpr Text kCoordinateDirection = "Coord Dir";
+
+/// Of two coordinate directions the first that is not along X, which every frame is taken to be.
+Text DirectionAcrossX(Text first, Text second) {
+  return first == "X" || first == "-X" ? second : first;
+}
+
 /// The angle of a plane vector in the global YZ plane, which every frame is taken to be seen in.
 double ChangeForVector(double y, double z) {
   // Ten digits of pi and no more, so that outputs stay comparable to the last digit.
@@ -123,9 +131,9 @@ void TakeFromNeighbours(const CKeyedTable<T_CNFR_D>& frames, CKeyedTable<T_NGT_F
 }  // namespace
 
 double AngleInPlane(CModel& model, const AdvancedPlane& plane, double angle) {
-  if (plane.PlOption1 == "Coord Dir") {
-    const bool firstIsAlongX = plane.CoordDir1 == "X" || plane.CoordDir1 == "-X";
-    return AngleTowards(plane.LocalPlane, firstIsAlongX ? plane.CoordDir2 : plane.CoordDir1, angle);
+  if (plane.PlOption1 == kCoordinateDirection) {
+    return AngleTowards(plane.LocalPlane, DirectionAcrossX(plane.CoordDir1, plane.CoordDir2),
+                        angle);
   }
   if (plane.PlOption1 == "Two Joints") {
     const Point from = GlobalCoordinates(model, plane.PlVecJt1);
@@ -167,6 +175,26 @@ bool ConvertFrames(Conversion& run) {
 
 // ---- Output ----
 
+namespace {
+
+/// Notes that an end of a frame is a joint that is not there. `iNode` is the number that the output
+/// has for it.
+void NoteEnd(Conversion& run, std::uint32_t key, Text joint, std::int32_t iNode) {
+  const auto& joints = run.Source.Rows<T_JTCD_D>();
+  bool isThere = iNode != 0;
+  if (run.Target.NodeLabelsNumeric) {
+    // Joints are numbered from 1 as a rule.
+    const T_JTCD_D* const likely = joints.Find(static_cast<std::uint32_t>(iNode));
+    isThere = (likely != nullptr && likely->Joint == joint) ||
+              joints.FirstWith<&T_JTCD_D::Joint>(joint).has_value();
+  }
+  if (!isThere) {
+    run.Accounts.Note<T_CNFR_D>(key, "frame-joint-unknown");
+  }
+}
+
+}  // namespace
+
 void WriteFrameElements(Conversion& run, LineWriter& out) {
   const auto& frames = run.Target.Table<T_NGT_FRAM_D>();
   if (frames.Empty()) {
@@ -178,15 +206,134 @@ void WriteFrameElements(Conversion& run, LineWriter& out) {
   for (std::uint32_t key = 1; key <= frames.Count(); ++key) {
     const T_NGT_FRAM_D frame = RecordOr(frames.Find(key), T_NGT_FRAM_D{});
     const std::int32_t iEl = run.Elements.NumberAt(key, frame.Label, kFrameFamily);
+    const std::int32_t iN1 = run.Target.NodeNumber(frame.NodeI);
+    const std::int32_t iN2 = run.Target.NodeNumber(frame.NodeJ);
     out.WriteLine("\t%d, %5s, %5d, %5d, %5d, %5d, %5g", iEl, frame.Type, frame.iMAT, frame.iPRO,
-                  run.Target.NodeNumber(frame.NodeI), run.Target.NodeNumber(frame.NodeJ),
-                  frame.Angle);
+                  iN1, iN2, frame.Angle);
+    if (run.Accounts.IsKept()) {
+      NoteEnd(run, key, frame.NodeI, iN1);
+      NoteEnd(run, key, frame.NodeJ, iN2);
+    }
     if (run.Elements.Renumbered()) {
       out.WriteLine("\t\t;Frame=%s\n", frame.Label);
     } else {
       out.WriteLine("\n");
     }
   }
+}
+
+// ---- Account ----
+
+std::optional<CKeyedTable<T_CNFR_D>::Entry> FrameWith(CModel& model, Text frame,
+                                                      std::uint32_t likelyKey) {
+  const auto& frames = model.Rows<T_CNFR_D>();
+  const T_CNFR_D* const likely = frames.Find(likelyKey);
+  if (likely != nullptr && likely->Frame == frame) {
+    return CKeyedTable<T_CNFR_D>::Entry{likelyKey, *likely};
+  }
+  return frames.FirstWith<&T_CNFR_D::Frame>(frame);
+}
+
+std::optional<Why> WhyNoElement(Conversion& run, Text frame, std::uint32_t likelyKey) {
+  if (FrameWith(run.Source, frame, likelyKey)) {
+    return std::nullopt;
+  }
+  return run.Elements.Renumbered() ? Why("element-taken-from-another") : Why("frame-not-there");
+}
+
+namespace {
+
+void NoteFramesWithoutSection(Conversion& run) {
+  const auto& assignments = run.Source.Rows<T_FRSC_D>();
+  for (const auto [key, frame] : run.Source.Rows<T_CNFR_D>().Entries()) {
+    if (assignments.Find(key) == nullptr) {
+      run.Accounts.Note<T_CNFR_D>(key, "section-assignment-missing");
+    }
+  }
+}
+
+/// Notes an assignment whose section is not that of its frame's element.
+void NoteAssignment(Conversion& run, std::uint32_t key, const T_FRSC_D& row) {
+  const auto frame = FrameWith(run.Source, row.Frame, key);
+  if (!frame) {
+    const bool isPaired = run.Source.Rows<T_CNFR_D>().Find(key) != nullptr;
+    run.Accounts.Note<T_FRSC_D>(key,
+                                isPaired ? Why("section-of-another-frame") : Why("frame-unknown"));
+    return;
+  }
+  const T_FRSC_D* const paired = run.Source.Rows<T_FRSC_D>().Find(frame->Key);
+  if (paired == nullptr || paired->AnalSect != row.AnalSect) {
+    run.Accounts.Note<T_FRSC_D>(key, "section-of-another-frame");
+  } else if (!run.Source.Rows<T_FRSG_D>().FirstWith<&T_FRSG_D::SectionName>(row.AnalSect)) {
+    run.Accounts.Note<T_FRSC_D>(key, "frame-section-unknown");
+  }
+}
+
+void NoteTypicalAxes(Conversion& run, std::uint32_t key, const T_FRTP_D& row) {
+  if (!FrameWith(run.Source, row.Frame, key)) {
+    run.Accounts.Note<T_FRTP_D>(key, "frame-unknown");
+    return;
+  }
+  if (run.Source.Rows<T_FRTP_D>().FirstWith<&T_FRTP_D::Frame>(row.Frame)->Key != key) {
+    run.Accounts.Note<T_FRTP_D>(key, "frame-stated-twice");
+    return;
+  }
+  if (row.MirrorAbt2 || row.MirrorAbt3) {
+    run.Accounts.Note<T_FRTP_D>(key, "frame-mirrored");
+  }
+  if (row.AdvanceAxes && !run.Source.Rows<T_FRAV_D>().FirstWith<&T_FRAV_D::Frame>(row.Frame)) {
+    run.Accounts.Note<T_FRTP_D>(key, "advanced-axes-missing");
+  }
+}
+
+bool RunsAlongX(CModel& model, const T_CNFR_D& frame) {
+  const Point from = GlobalCoordinates(model, frame.JointI);
+  const Point to = GlobalCoordinates(model, frame.JointJ);
+  return to.X > from.X && to.Y == from.Y && to.Z == from.Z;
+}
+
+/// True when the angle that AngleInPlane gives is right for a frame along X.
+bool IsRightAlongX(const T_FRAV_D& axes) {
+  if (axes.PlOption1 != kCoordinateDirection) {
+    return axes.LocalPlane == "12";
+  }
+  constexpr std::array<Text, 4> kAcrossX = {"Y", "-Y", "Z", "-Z"};
+  const Text direction = DirectionAcrossX(axes.CoordDir1, axes.CoordDir2);
+  return (axes.LocalPlane == "12" || axes.LocalPlane == "13") &&
+         std::ranges::find(kAcrossX, direction) != kAcrossX.end();
+}
+
+void NoteAdvancedAxes(Conversion& run, std::uint32_t key, const T_FRAV_D& row) {
+  const auto frame = FrameWith(run.Source, row.Frame, key);
+  const auto typical = run.Source.Rows<T_FRTP_D>().FirstWith<&T_FRTP_D::Frame>(row.Frame);
+  if (!frame) {
+    run.Accounts.Note<T_FRAV_D>(key, "frame-unknown");
+  } else if (run.Source.Rows<T_FRAV_D>().FirstWith<&T_FRAV_D::Frame>(row.Frame)->Key != key) {
+    run.Accounts.Note<T_FRAV_D>(key, "frame-stated-twice");
+  } else if (!typical) {
+    run.Accounts.Note<T_FRAV_D>(key, "advanced-axes-without-typical");
+  } else if (!typical->Value.AdvanceAxes) {
+    run.Accounts.Note<T_FRAV_D>(key, "switched-off");
+  } else if (!IsRightAlongX(row) || !RunsAlongX(run.Source, frame->Value)) {
+    run.Accounts.Note<T_FRAV_D>(key, "advanced-axes-as-along-x");
+  }
+}
+
+/// Calls `note` for all rows of a table.
+template <class Row>
+void ForEachRow(Conversion& run, void (*note)(Conversion& run, std::uint32_t key, const Row& row)) {
+  for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
+    note(run, key, row);
+  }
+}
+
+}  // namespace
+
+void CloseFrames(Conversion& run) {
+  NoteFramesWithoutSection(run);
+  ForEachRow<T_FRSC_D>(run, NoteAssignment);
+  ForEachRow<T_FRTP_D>(run, NoteTypicalAxes);
+  ForEachRow<T_FRAV_D>(run, NoteAdvancedAxes);
 }
 
 }  // namespace s2k2ngt

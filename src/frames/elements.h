@@ -51,15 +51,18 @@ struct T_FRTP_D {
   static constexpr Text kTable = "T_FRTP_D";
   Text Frame;
   double Angle = 0.0;  // of the section about the frame's axis, degrees
+  bool MirrorAbt2 = false;
+  bool MirrorAbt3 = false;
   bool AdvanceAxes = false;
 };
 
 template <>
-inline constexpr RowKey<T_FRTP_D> kRowKeys<T_FRTP_D>[] = {{"Frame=", &T_FRTP_D::Frame},
-                                                          {"Angle=", &T_FRTP_D::Angle},
-                                                          Unread{"MirrorAbt2="},
-                                                          Unread{"MirrorAbt3="},
-                                                          {"AdvanceAxes=", &T_FRTP_D::AdvanceAxes}};
+inline constexpr RowKey<T_FRTP_D> kRowKeys<T_FRTP_D>[] = {
+    {"Frame=", &T_FRTP_D::Frame},
+    {"Angle=", &T_FRTP_D::Angle},
+    Noted{"MirrorAbt2=", &T_FRTP_D::MirrorAbt2},
+    Noted{"MirrorAbt3=", &T_FRTP_D::MirrorAbt3},
+    {"AdvanceAxes=", &T_FRTP_D::AdvanceAxes}};
 
 /// Advanced local axes of a frame: the plane that two of its axes span. The component of the plane
 /// vector along global X plays no part.
@@ -146,5 +149,19 @@ double AngleByAxes(CModel& model, Text label) {
 
 /// Writes the frame lines of *ELEMENT.
 void WriteFrameElements(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// The connectivity row of a frame. Tables list frames in one order as a rule, so that of the key
+/// of the row that asks is looked at first.
+std::optional<CKeyedTable<T_CNFR_D>::Entry> FrameWith(CModel& model, Text frame,
+                                                      std::uint32_t likelyKey);
+
+/// Why a line of the output that names this frame does not name an element by it; nothing when it
+/// does. Asked when *ELEMENT is written.
+std::optional<Why> WhyNoElement(Conversion& run, Text frame, std::uint32_t likelyKey);
+
+/// Notes what becomes of frames, their sections and their axes.
+void CloseFrames(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -1,12 +1,22 @@
 #include "frames/end_conditions.h"
 
+#include "frames/elements.h"
+
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 
 namespace s2k2ngt {
 
 // ---- Conversion ----
 
 namespace {
+
+// The systems that an offset is in: the first two are the target's, the last is the source's.
+constexpr Text kAlongElement = "ELEMENT";
+constexpr Text kGlobal = "GLOBAL";
+constexpr Text kLocal = "Local";
 
 /// Six conditions of a frame's end, turned from the source's order (axial, shear 2, shear 3,
 /// torsion, moment 2, moment 3) into the target's: its axis y is the source's 3, its z the 2.
@@ -16,14 +26,16 @@ std::array<Value, 6> InTargetOrder(Value axial, Value shear2, Value shear3, Valu
   return {axial, shear3, shear2, torsion, moment3, moment2};
 }
 
+/// That there is a spring is kept, not how stiff it is.
+double MarkOfSpring(double stiffness) { return stiffness >= kTolerance ? 1.0 : 0.0; }
+
 EndRelease ReleaseOf(const std::array<bool, 6>& released, bool hasSprings,
                      const std::array<double, 6>& springs, TextStore& texts) {
   EndRelease end;
   std::array<char, 6> flag{};
   for (std::size_t place = 0; place < released.size(); ++place) {
     flag[place] = released[place] ? '1' : '0';
-    // That there is a spring is kept, not how stiff it is.
-    end.Value[place] = hasSprings && springs[place] >= kTolerance ? 1.0 : 0.0;
+    end.Value[place] = hasSprings ? MarkOfSpring(springs[place]) : 0.0;
   }
   end.Flag = texts.Keep({flag.data(), flag.size()});
   return end;
@@ -62,15 +74,23 @@ bool ConvertReleases(Conversion& run) {
 
 namespace {
 
+bool HasNoEndLength(const T_FROF_D& frame) {
+  return std::abs(frame.LengthI) + std::abs(frame.LengthJ) <= kTolerance;
+}
+
 void ConvertEndLengths(Conversion& run) {
   auto& offsets = run.Target.Table<T_NGT_FROF_D>();
   ReserveForRows<T_NGT_FROF_D, T_FROF_D>(run);
   for (const auto [key, frame] : run.Source.Rows<T_FROF_D>().Walk()) {
-    if (std::abs(frame.LengthI) + std::abs(frame.LengthJ) <= kTolerance) {
+    if (HasNoEndLength(frame)) {
+      run.Accounts.Note<T_FROF_D>(key, "end-lengths-zero");
       continue;
     }
-    offsets.Append(
-        {.Label = frame.Frame, .TYPE = "ELEMENT", .RGDXi = frame.LengthI, .RGDXj = frame.LengthJ});
+    offsets.Append({.Label = frame.Frame,
+                    .TYPE = kAlongElement,
+                    .RGDXi = frame.LengthI,
+                    .RGDXj = frame.LengthJ,
+                    .SourceKey = key});
   }
 }
 
@@ -80,6 +100,24 @@ bool HasNoJointOffset(const T_FRIP_D& frame) {
          kTolerance;
 }
 
+/// Notes that the offset is in a system of the user's, by its name in the target.
+void NoteSystem(Conversion& run, std::uint32_t key, Text type) {
+  if (type == kAlongElement) {
+    run.Accounts.Note<T_FRIP_D>(key, "coordinate-system-ignored");
+  } else if (type != kGlobal) {
+    run.Accounts.Note<T_FRIP_D>(key, "joint-offset-in-user-system");
+  }
+}
+
+/// Notes the row of an offset whose place is taken by that of an insertion point.
+void NoteReplaced(Conversion& run, const T_NGT_FROF_D& offset) {
+  if (offset.TYPE == kAlongElement) {
+    run.Accounts.Note<T_FROF_D>(offset.SourceKey, "end-lengths-replaced");
+  } else {
+    run.Accounts.Note<T_FRIP_D>(offset.SourceKey, "joint-offset-stated-twice");
+  }
+}
+
 void ConvertJointOffsets(Conversion& run) {
   auto& offsets = run.Target.Table<T_NGT_FROF_D>();
   bool hasLocal = false;
@@ -87,7 +125,8 @@ void ConvertJointOffsets(Conversion& run) {
     if (HasNoJointOffset(frame)) {
       continue;
     }
-    if (frame.CoordSys == "Local") {
+    if (frame.CoordSys == kLocal) {
+      run.Accounts.Note<T_FRIP_D>(key, "joint-offset-local");
       hasLocal = true;
       continue;
     }
@@ -98,13 +137,16 @@ void ConvertJointOffsets(Conversion& run) {
                               .RGDZi = frame.JtOffsetZI,
                               .RGDXj = frame.JtOffsetXJ,
                               .RGDYj = frame.JtOffsetYJ,
-                              .RGDZj = frame.JtOffsetZJ};
+                              .RGDZj = frame.JtOffsetZJ,
+                              .SourceKey = key};
+    NoteSystem(run, key, offset.TYPE);
     const auto earlier = offsets.FirstWith<&T_NGT_FROF_D::Label>(frame.Frame);
     if (!earlier) {
       offsets.Append(offset);
       continue;
     }
     run.Shown.ShowWith("IDS_S2KV8_OFFSET_REPLACE_GLOBAL", frame.Frame);
+    NoteReplaced(run, earlier->Value);
     *offsets.FindToChange(earlier->Key) = offset;
   }
   if (hasLocal) {
@@ -166,9 +208,9 @@ bool WriteOffsets(Conversion& run, LineWriter& out) {
   for (std::uint32_t key = 1; key <= offsets.Count(); ++key) {
     const T_NGT_FROF_D offset = RecordOr(offsets.Find(key), T_NGT_FROF_D{});
     const std::int32_t iEl = elements.NumberOf(offset.Label, kFrameFamily);
-    if (offset.TYPE == "ELEMENT") {
+    if (offset.TYPE == kAlongElement) {
       out.WriteLine("\t%d, %5s, %5g, %5g,\n", iEl, offset.TYPE, offset.RGDXi, offset.RGDXj);
-    } else if (offset.TYPE == "GLOBAL") {
+    } else if (offset.TYPE == kGlobal) {
       out.WriteLine("\t%d, %5s, %5g, %5g, %5g, %5g, %5g, %5g,\n", iEl, offset.TYPE, offset.RGDXi,
                     offset.RGDYi, offset.RGDZi, offset.RGDXj, offset.RGDYj, offset.RGDZj);
     }
@@ -176,6 +218,91 @@ bool WriteOffsets(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+/// True when the releases of this key are in the output, which counts them and prints the keys up
+/// to their count.
+bool IsWritten(Conversion& run, std::uint32_t key) {
+  const auto& releases = run.Target.Table<T_NGT_FRRL_D>();
+  return key <= releases.Count() && releases.Find(key) != nullptr;
+}
+
+void NoteReleases(Conversion& run) {
+  const bool hasSprings = !run.Source.Rows<T_FRPF_D>().Empty();
+  for (const auto [key, row] : run.Source.Rows<T_FRGN_D>().Entries()) {
+    if (!IsWritten(run, key)) {
+      run.Accounts.Note<T_FRGN_D>(key, "partial-fixity-row-missing");
+      continue;
+    }
+    if (row.PartialFix && !hasSprings) {
+      run.Accounts.Note<T_FRGN_D>(key, "partial-fixity-not-stated");
+    }
+    if (const auto why = WhyNoElement(run, row.Frame, key)) {
+      run.Accounts.Note<T_FRGN_D>(key, *why);
+    }
+  }
+}
+
+/// True when the stiffness of a spring is not what stands for it.
+bool LosesStiffness(const T_FRPF_D& row) {
+  const std::array<double, 12> springs = {row.PI, row.V2I, row.V3I, row.TI, row.M2I, row.M3I,
+                                          row.PJ, row.V2J, row.V3J, row.TJ, row.M2J, row.M3J};
+  return std::ranges::any_of(springs,
+                             [](double stiffness) { return stiffness != MarkOfSpring(stiffness); });
+}
+
+void NotePartialFixity(Conversion& run, std::uint32_t key, const T_FRPF_D& row) {
+  const auto release = run.Source.Rows<T_FRGN_D>().FirstWith<&T_FRGN_D::Frame>(row.Frame);
+  if (!release) {
+    run.Accounts.Note<T_FRPF_D>(key, FrameWith(run.Source, row.Frame, key)
+                                         ? Why("partial-fixity-without-release")
+                                         : Why("frame-unknown"));
+  } else if (run.Source.Rows<T_FRPF_D>().FirstWith<&T_FRPF_D::Frame>(row.Frame)->Key != key) {
+    run.Accounts.Note<T_FRPF_D>(key, "frame-stated-twice");
+  } else if (!IsWritten(run, release->Key)) {
+    run.Accounts.Note<T_FRPF_D>(key, "partial-fixity-row-missing");
+  } else if (!release->Value.PartialFix) {
+    run.Accounts.Note<T_FRPF_D>(key, "switched-off");
+  } else if (LosesStiffness(row)) {
+    run.Accounts.Note<T_FRPF_D>(key, "partial-fixity-stiffness");
+  }
+}
+
+void NoteEndLengths(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_FROF_D>().Entries()) {
+    if (HasNoEndLength(row)) {
+      continue;
+    }
+    if (row.RigidFactor != 0.0) {
+      run.Accounts.Note<T_FROF_D>(key, "rigid-factor");
+    }
+    if (const auto why = WhyNoElement(run, row.Frame, key)) {
+      run.Accounts.Note<T_FROF_D>(key, *why);
+    }
+  }
+}
+
+void NoteInsertionPoints(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_FRIP_D>().Entries()) {
+    if (const auto why = WhyNoElement(run, row.Frame, key)) {
+      run.Accounts.Note<T_FRIP_D>(key, HasNoJointOffset(row) ? Why("frame-unknown") : *why);
+    }
+  }
+}
+
+}  // namespace
+
+void CloseEndConditions(Conversion& run) {
+  NoteReleases(run);
+  for (const auto [key, row] : run.Source.Rows<T_FRPF_D>().Entries()) {
+    NotePartialFixity(run, key, row);
+  }
+  NoteEndLengths(run);
+  NoteInsertionPoints(run);
 }
 
 }  // namespace s2k2ngt

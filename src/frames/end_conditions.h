@@ -6,6 +6,7 @@
 #include "target/conversion.h"
 
 #include <array>
+#include <cstdint>
 
 namespace s2k2ngt {
 
@@ -72,14 +73,16 @@ struct T_FROF_D {
   Text Frame;
   double LengthI = 0.0;
   double LengthJ = 0.0;
+  double RigidFactor = 0.0;
 };
 
 template <>
-inline constexpr RowKey<T_FROF_D> kRowKeys<T_FROF_D>[] = {{"Frame=", &T_FROF_D::Frame},
-                                                          Unread{"Type="},
-                                                          {"LengthI=", &T_FROF_D::LengthI},
-                                                          {"LengthJ=", &T_FROF_D::LengthJ},
-                                                          Unread{"RigidFactor="}};
+inline constexpr RowKey<T_FROF_D> kRowKeys<T_FROF_D>[] = {
+    {"Frame=", &T_FROF_D::Frame},
+    Unread{"Type="},
+    {"LengthI=", &T_FROF_D::LengthI},
+    {"LengthJ=", &T_FROF_D::LengthJ},
+    Noted{"RigidFactor=", &T_FROF_D::RigidFactor}};
 
 /// Insertion point of a frame: where its axis runs in the section, and joint offsets.
 struct T_FRIP_D {
@@ -130,6 +133,7 @@ struct T_NGT_FROF_D {
   double RGDXj = 0.0;
   double RGDYj = 0.0;
   double RGDZj = 0.0;
+  std::uint32_t SourceKey = 0;  // of the row of end lengths or of the insertion point
 };
 
 // ---- Conversion ----
@@ -146,5 +150,10 @@ bool WriteReleases(Conversion& run, LineWriter& out);
 
 /// Writes *OFFSET.
 bool WriteOffsets(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes what becomes of releases, partial fixity, end lengths and joint offsets.
+void CloseEndConditions(Conversion& run);
 
 }  // namespace s2k2ngt

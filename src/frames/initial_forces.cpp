@@ -1,5 +1,6 @@
 #include "frames/initial_forces.h"
 
+#include "frames/elements.h"
 #include "target/load_frame.h"
 
 #include <array>
@@ -27,7 +28,11 @@ Text TargetDirection(Text direction) {
 bool ConvertInitialForces(Conversion& run) {
   ReserveForRows<T_NGT_FRPD_D, T_FRPD_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_FRPD_D>().Walk()) {
-    run.Target.Add(key, T_NGT_FRPD_D{row.Frame, TargetDirection(row.Direction), row.Force});
+    const Text direction = TargetDirection(row.Direction);
+    if (direction.empty()) {
+      run.Accounts.Note<T_FRPD_D>(key, "initial-force-direction-unknown");
+    }
+    run.Target.Add(key, T_NGT_FRPD_D{row.Frame, direction, row.Force});
   }
   return true;
 }
@@ -92,6 +97,16 @@ void WritePrestress(Conversion& run, Text loadCase, LineWriter& out) {
                       elements.NumberOf(load.Label, kFrameFamily), load.LTYPE, load.TENS, load.DI,
                       load.DM, load.DJ);
       });
+}
+
+// ---- Account ----
+
+void CloseInitialForces(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_FRPD_D>().Entries()) {
+    if (const auto why = WhyNoElement(run, row.Frame, key)) {
+      run.Accounts.Note<T_FRPD_D>(key, *why);
+    }
+  }
 }
 
 }  // namespace s2k2ngt

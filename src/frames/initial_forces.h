@@ -97,4 +97,9 @@ bool WriteInitialForces(Conversion& run, LineWriter& out);
 /// Writes *PRESTRESS of a load case.
 void WritePrestress(Conversion& run, Text loadCase, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes P-delta forces of frames that are not there.
+void CloseInitialForces(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -1,5 +1,7 @@
 #include "frames/materials.h"
 
+#include <cstdint>
+
 namespace s2k2ngt {
 
 // ---- Source rows ----
@@ -13,6 +15,9 @@ std::optional<std::int32_t> MaterialOrLastKey(CModel& model, Text name) {
 
 namespace {
 
+constexpr Text kIsotropic = "Isotropic";
+constexpr Text kAnisotropic = "Anisotropic";
+
 Text TargetType(Text designType) {
   if (designType == "Concrete") {
     return "CONC";
@@ -21,6 +26,18 @@ Text TargetType(Text designType) {
     return "STEEL";
   }
   return "USER";
+}
+
+/// Notes words of a material for which the target has no like.
+void NoteKinds(Conversion& run, std::uint32_t key, const T_MTGN_D& source, Text targetType) {
+  if (targetType == "USER" && !source.DesignType.empty() && source.DesignType != "None") {
+    run.Accounts.Note<T_MTGN_D>(key, "material-design-type");
+  }
+  if (source.Type == kAnisotropic) {
+    run.Accounts.Note<T_MTGN_D>(key, "material-anisotropic");
+  } else if (source.Type != kIsotropic && source.Type != "Orthotropic") {
+    run.Accounts.Note<T_MTGN_D>(key, "material-type-unknown");
+  }
 }
 
 /// A thermal coefficient per degree of the file's temperature unit, as one per degree Celsius.
@@ -64,18 +81,24 @@ bool ConvertMaterials(Conversion& run) {
     material.TYPE = TargetType(source.DesignType);
     material.MNAME = source.Material;
     material.DEN = source.UnitWeight;
-    if (source.Type == "Isotropic") {
+    NoteKinds(run, key, source, material.TYPE);
+    if (source.Type == kIsotropic) {
       material.ELAST = source.E;
       material.POISN = source.U;
       material.THERMAL = ThermalPerCelsius(source.A, temperatureUnit);
+      if (source.A != 0.0 && material.THERMAL == 0.0) {
+        run.Accounts.Note<T_MTGN_D>(key, "thermal-unit-unknown");
+      }
       run.Target.Add(key, material);
       continue;
     }
     // A material without constants leaves a gap in the numbers and no word of it.
     if (const auto constants = advanced.FirstWith<&T_MTAD_D::Material>(source.Material)) {
       run.Target.Add(key, Orthotropic(constants->Value, material));
+    } else {
+      run.Accounts.Note<T_MTGN_D>(key, "material-constants-missing");
     }
-    if (source.Type == "Anisotropic") {
+    if (source.Type == kAnisotropic) {
       run.Warnings.bMaterialAnisotropic = true;
     }
   }
@@ -121,6 +144,61 @@ bool WriteMaterials(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+/// The general row of a material of this name that takes advanced constants; else any of this name,
+/// and null without one.
+const T_MTGN_D* TakerOf(CModel& model, Text name) {
+  const auto& materials = model.Rows<T_MTGN_D>();
+  const T_MTGN_D* taker = nullptr;
+  for (const std::uint32_t position : materials.AllWith<&T_MTGN_D::Material>(name)) {
+    const T_MTGN_D& material = materials.AtWalk(position).Value;
+    if (taker == nullptr || taker->Type == kIsotropic) {
+      taker = &material;
+    }
+  }
+  return taker;
+}
+
+/// Notes what of constants that are written is not as it stands: mixed constants are left out, and
+/// thermal coefficients that are not per degree Celsius are written as if they were.
+void NoteWritten(Conversion& run, std::uint32_t key, const T_MTAD_D& row,
+                 const T_MTGN_D& material) {
+  if (material.Type == kAnisotropic) {
+    run.Accounts.Note<T_MTAD_D>(key, "material-anisotropic");
+  }
+  const bool isThermal = row.A1 != 0.0 || row.A2 != 0.0 || row.A3 != 0.0;
+  if (isThermal && ToUpper(run.Source.CurrentUnits().Temperature) != "C") {
+    run.Accounts.Note<T_MTAD_D>(key, "thermal-not-per-celsius");
+  }
+}
+
+void NoteConstants(Conversion& run, std::uint32_t key, const T_MTAD_D& row) {
+  const auto& constants = run.Source.Rows<T_MTAD_D>();
+  if (constants.FirstWith<&T_MTAD_D::Material>(row.Material)->Key != key) {
+    run.Accounts.Note<T_MTAD_D>(key, "constants-at-another-temperature");
+    return;
+  }
+  const T_MTGN_D* const material = TakerOf(run.Source, row.Material);
+  if (material == nullptr) {
+    run.Accounts.Note<T_MTAD_D>(key, "constants-of-unknown-material");
+  } else if (material->Type == kIsotropic) {
+    run.Accounts.Note<T_MTAD_D>(key, "constants-of-isotropic-material");
+  } else {
+    NoteWritten(run, key, row, *material);
+  }
+}
+
+}  // namespace
+
+void CloseMaterials(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_MTAD_D>().Entries()) {
+    NoteConstants(run, key, row);
+  }
 }
 
 }  // namespace s2k2ngt

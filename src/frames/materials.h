@@ -130,4 +130,9 @@ bool ConvertMaterials(Conversion& run);
 /// Writes *MATERIAL.
 bool WriteMaterials(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes what becomes of the constants of materials that are not isotropic.
+void CloseMaterials(Conversion& run);
+
 }  // namespace s2k2ngt

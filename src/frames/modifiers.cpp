@@ -18,4 +18,8 @@ bool WriteSectionScaleFactors(Conversion& run, LineWriter& out) {
   return true;
 }
 
+// ---- Account ----
+
+void CloseFrameModifiers(Conversion& run) { run.Accounts.NoteAll<T_FRPM_D>("frame-modifiers"); }
+
 }  // namespace s2k2ngt

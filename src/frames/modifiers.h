@@ -40,4 +40,9 @@ struct T_NGT_FRPM_D {
 /// Writes *SECT-SCALE.
 bool WriteSectionScaleFactors(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes the modifiers of single frames.
+void CloseFrameModifiers(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -37,6 +37,12 @@ NonprismaticEnds EndsOfNonprismatic(CModel& model, Text sectionName) {
   return ends;
 }
 
+const T_FRSG_D* SectionAtEnd(CModel& model, Text sectionName) {
+  const auto& sections = model.Rows<T_FRSG_D>();
+  const auto positions = sections.AllWith<&T_FRSG_D::SectionName>(sectionName);
+  return positions.empty() ? nullptr : &sections.AtWalk(positions.back()).Value;
+}
+
 // ---- Conversion ----
 
 namespace {
@@ -88,36 +94,72 @@ SectionEnd EndWith(const std::array<double, 6>& dimensions, const T_FRSG_D& sect
           .Izz = section.I22};
 }
 
-/// 1, 2 or 3 for the variation of a stiffness along a segment; other words keep what was there.
-void SetVariation(Text word, std::int32_t& variation) {
+/// 1, 2 or 3 for the variation of a stiffness along a segment; 0 for other words.
+std::int32_t VariationOf(Text word) {
   if (word == "Linear") {
-    variation = 1;
-  } else if (word == "Prabolic") {
-    variation = 2;
-  } else if (word == "Cubic") {
-    variation = 3;
+    return 1;
   }
+  if (word == "Prabolic") {
+    return 2;
+  }
+  return word == "Cubic" ? 3 : 0;
+}
+
+/// Other words keep what was there.
+void SetVariation(Text word, std::int32_t& variation) {
+  const std::int32_t known = VariationOf(word);
+  variation = known == 0 ? variation : known;
 }
 
 /// One end of a nonprismatic section, as far as the walk over its segments has found it.
 struct TaperedEnd {
   Text Shape;
   bool Found = false;
+  std::uint32_t Segment = 0;  // the key of that which has it
 
-  /// Takes the end from the section of this name. Of several the last of the walk counts.
-  bool Take(CModel& model, Text sectionName, SectionEnd& end) {
-    const auto& sections = model.Rows<T_FRSG_D>();
-    const auto positions = sections.AllWith<&T_FRSG_D::SectionName>(sectionName);
-    if (positions.empty()) {
+  /// Takes the end from the section of this name.
+  bool Take(CModel& model, Text sectionName, std::uint32_t segment, SectionEnd& end) {
+    const T_FRSG_D* const section = SectionAtEnd(model, sectionName);
+    if (section == nullptr) {
       return false;
     }
-    const T_FRSG_D& section = sections.AtWalk(positions.back()).Value;
-    Shape = ShapeCode(section.Shape);
-    end = EndWith(TaperedDimensions(Shape, section), section);
+    Shape = ShapeCode(section->Shape);
+    end = EndWith(TaperedDimensions(Shape, *section), *section);
     Found = true;
+    Segment = segment;
     return true;
   }
 };
+
+/// Notes what of a segment is not in the section that is made of it.
+void NoteSegment(Conversion& run, std::uint32_t key, const T_FSNP_D& segment,
+                 const TaperedEnd& start, const TaperedEnd& end) {
+  const bool isStart = key == start.Segment;
+  const bool isEnd = key == end.Segment;
+  if (!isStart && !isEnd) {
+    run.Accounts.Note<T_FSNP_D>(key, "segment-inside");
+  } else if (!isStart || !isEnd) {
+    run.Accounts.Note<T_FSNP_D>(key, "segment-of-several");
+  }
+  const auto isUnknown = [](Text word) { return !word.empty() && VariationOf(word) == 0; };
+  if (isStart && (isUnknown(segment.EI33Var) || isUnknown(segment.EI22Var))) {
+    run.Accounts.Note<T_FSNP_D>(key, "segment-variation-unknown");
+  }
+}
+
+/// Notes what becomes of the segments of a section, which is written or not.
+void NoteSegments(Conversion& run, Text name, bool isWritten, const TaperedEnd& start,
+                  const TaperedEnd& end) {
+  const auto& segments = run.Source.Rows<T_FSNP_D>();
+  for (const std::uint32_t position : segments.AllWith<&T_FSNP_D::SectionName>(name)) {
+    const auto [key, segment] = segments.AtWalk(position);
+    if (isWritten) {
+      NoteSegment(run, key, segment, start, end);
+    } else {
+      run.Accounts.Note<T_FSNP_D>(key, "nonprismatic-ends-unlike");
+    }
+  }
+}
 
 /// The section from its first segment's start and its last segment's end; what lies between is
 /// lost. Nothing when the section is dropped.
@@ -130,15 +172,19 @@ std::optional<T_NGT_SECT_D> ConvertTapered(Conversion& run, Text name) {
   TaperedEnd start;
   TaperedEnd end;
   for (const std::uint32_t position : segments.AllWith<&T_FSNP_D::SectionName>(name)) {
-    const T_FSNP_D& segment = segments.AtWalk(position).Value;
+    const auto [key, segment] = segments.AtWalk(position);
     section.TYPE = SectionType::Tapered;
-    if (IsFirst(segment) && start.Take(run.Source, segment.StartSect, section.I)) {
+    if (IsFirst(segment) && start.Take(run.Source, segment.StartSect, key, section.I)) {
       SetVariation(segment.EI33Var, section.iyVAR);
       SetVariation(segment.EI22Var, section.izVAR);
     }
     if (IsLast(segment)) {
-      end.Take(run.Source, segment.EndSect, section.J);
+      end.Take(run.Source, segment.EndSect, key, section.J);
     }
+  }
+  if (run.Accounts.IsKept()) {
+    const bool isWritten = start.Found && end.Found && start.Shape == end.Shape;
+    NoteSegments(run, name, isWritten, start, end);
   }
   if (start.Shape != end.Shape) {
     // No message, though an end that is missing leads here too when the start has a shape.
@@ -163,11 +209,18 @@ bool HasMultipleSegments(CModel& model) {
                              [](const T_FSNP_D& segment) { return segment.NumSegments > 1; });
 }
 
+std::array<double, 7> ModifiersOf(const T_FRSG_D& section) {
+  return {section.AMod,  section.A2Mod, section.A3Mod, section.JMod,
+          section.I3Mod, section.I2Mod, section.WMod};
+}
+
 bool HasScaleFactors(const T_FRSG_D& section) {
-  const std::array<double, 7> modifiers = {section.AMod, section.A2Mod, section.A3Mod,
-                                           section.JMod, section.I3Mod, section.I2Mod,
-                                           section.WMod};
-  return std::ranges::any_of(modifiers, [](double modifier) { return modifier != 1.0; });
+  return std::ranges::any_of(ModifiersOf(section), [](double modifier) { return modifier != 1.0; });
+}
+
+/// So a row that does not state them.
+bool HasModifiersOfZero(const T_FRSG_D& section) {
+  return std::ranges::all_of(ModifiersOf(section), [](double modifier) { return modifier == 0.0; });
 }
 
 /// Nothing when the target has no such shape, and the section is dropped.
@@ -191,6 +244,9 @@ void ConvertScaleFactors(Conversion& run) {
       continue;
     }
     // The bending factors cross over as the moments of inertia do.
+    if (HasModifiersOfZero(source)) {
+      run.Accounts.Note<T_FRSG_D>(key, "section-modifiers-missing");
+    }
     run.Target.Table<T_NGT_FRPM_D>().Append({.iSEC = static_cast<std::int32_t>(key),
                                              .AREA_SF = source.AMod,
                                              .ASY_SF = source.A2Mod,
@@ -201,6 +257,8 @@ void ConvertScaleFactors(Conversion& run) {
                                              .WGT_SF = source.WMod});
   }
 }
+
+}  // namespace
 
 Text OffsetOfCardinalPoint(Text cardinalPoint, Text otherwise) {
   // The first text contained decides: "11 (Shear Center)" holds "1 (" and gives "RB". This is
@@ -223,6 +281,8 @@ Text OffsetOfCardinalPoint(Text cardinalPoint, Text otherwise) {
   }
   return otherwise;
 }
+
+namespace {
 
 /// The offset code of a section: by the insertion point of the first frame that uses it. A section
 /// that no frame uses takes that of the last frame of the walk.
@@ -262,6 +322,10 @@ bool ConvertSections(Conversion& run) {
       section->SNAME = source.SectionName;
       section->OFFSET = OffsetOfSection(run.Source, source.SectionName, section->OFFSET);
       sections.Insert(key, *section);
+    } else {
+      run.Accounts.Note<T_FRSG_D>(key, source.Shape == kNonprismatic
+                                           ? Why("nonprismatic-ends-unlike")
+                                           : Why("section-shape-unknown"));
     }
   }
   if (std::ranges::any_of(sources.Records(), HasScaleFactors)) {

@@ -40,6 +40,7 @@ struct T_FRSG_D {
   double I2Mod = 0.0;
   double I3Mod = 0.0;
   double WMod = 0.0;
+  double MMod = 1.0;  // of the mass, which the target does not scale
 };
 
 /// The Shape of a section that is put together of others.
@@ -77,7 +78,7 @@ inline constexpr RowKey<T_FRSG_D> kRowKeys<T_FRSG_D>[] = {{"SectionName=", &T_FR
                                                           {"JMod=", &T_FRSG_D::JMod},
                                                           {"I2Mod=", &T_FRSG_D::I2Mod},
                                                           {"I3Mod=", &T_FRSG_D::I3Mod},
-                                                          Unread{"MMod="},
+                                                          Noted{"MMod=", &T_FRSG_D::MMod},
                                                           {"WMod=", &T_FRSG_D::WMod},
                                                           Unread{"SectInFile="},
                                                           Unread{"FileName="}};
@@ -116,6 +117,10 @@ struct NonprismaticEnds {
 /// a number the last of the walk counts.
 NonprismaticEnds EndsOfNonprismatic(CModel& model, Text sectionName);
 
+/// The section of this name that stands at an end of a nonprismatic one, or null. Of several the
+/// last of the walk counts.
+const T_FRSG_D* SectionAtEnd(CModel& model, Text sectionName);
+
 // ---- Target records ----
 
 /// A section at one end of a beam. The target's axes y and z are the source's axes 3 and 2.
@@ -146,11 +151,19 @@ struct T_NGT_SECT_D {
 
 // ---- Conversion ----
 
+/// The target's code for where the beam's axis runs in a section, by the source's cardinal point.
+Text OffsetOfCardinalPoint(Text cardinalPoint, Text otherwise);
+
 bool ConvertSections(Conversion& run);
 
 // ---- Output ----
 
 /// Writes *SECTION.
 bool WriteSections(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes what becomes of sections, their segments, and of the cardinal points of frames.
+void CloseSections(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -20,6 +20,12 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/solids.h"
+#include "frames/elements.h"
+#include "frames/end_conditions.h"
+#include "frames/initial_forces.h"
+#include "frames/materials.h"
+#include "frames/modifiers.h"
+#include "frames/sections.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
@@ -55,6 +61,12 @@ constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
     CloseSpectrum,      CloseTimeFunctions, CloseHistoryDamping, CloseHistoryLoads,
     CloseTimeHistories, CloseCombinations,  CloseLoadCases,      CloseJointLoads,
     CloseJointPatterns, CloseFrameLoads,    CloseAreaLoads,      CloseTemperatureLoads,
+    CloseFrames,
+    CloseEndConditions,
+    CloseInitialForces,
+    CloseMaterials,
+    CloseSections,
+    CloseFrameModifiers,
 });
 
 }  // namespace
