@@ -10,6 +10,12 @@
 #include "analysis/spectrum.h"
 #include "analysis/structure.h"
 #include "analysis/time_functions.h"
+#include "frames/elements.h"
+#include "frames/end_conditions.h"
+#include "frames/initial_forces.h"
+#include "frames/materials.h"
+#include "frames/modifiers.h"
+#include "frames/sections.h"
 #include "loads/area_loads.h"
 #include "loads/frame_loads.h"
 #include "loads/joint_loads.h"
@@ -20,12 +26,6 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/solids.h"
-#include "frames/elements.h"
-#include "frames/end_conditions.h"
-#include "frames/initial_forces.h"
-#include "frames/materials.h"
-#include "frames/modifiers.h"
-#include "frames/sections.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
@@ -56,17 +56,15 @@ bool HasNoModelData(Text title) {
 
 /// The closing notes of the rooms, in the order of the source's topics.
 constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
-    CloseAreas,         CloseSolids,        CloseLinks,          CloseAutoLoads,
-    CloseStructure,     CloseAnalysisCases, CloseModal,          CloseBuckling,
-    CloseSpectrum,      CloseTimeFunctions, CloseHistoryDamping, CloseHistoryLoads,
-    CloseTimeHistories, CloseCombinations,  CloseLoadCases,      CloseJointLoads,
-    CloseJointPatterns, CloseFrameLoads,    CloseAreaLoads,      CloseTemperatureLoads,
-    CloseFrames,
-    CloseEndConditions,
-    CloseInitialForces,
-    CloseMaterials,
-    CloseSections,
-    CloseFrameModifiers,
+    CloseFrames,        CloseFrameModifiers, CloseEndConditions,
+    CloseInitialForces, CloseMaterials,      CloseSections,
+    CloseAreas,         CloseSolids,         CloseLinks,
+    CloseLoadCases,     CloseJointLoads,     CloseJointPatterns,
+    CloseFrameLoads,    CloseAreaLoads,      CloseTemperatureLoads,
+    CloseAutoLoads,     CloseStructure,      CloseAnalysisCases,
+    CloseModal,         CloseBuckling,       CloseSpectrum,
+    CloseTimeFunctions, CloseHistoryDamping, CloseHistoryLoads,
+    CloseTimeHistories, CloseCombinations,
 });
 
 }  // namespace
