@@ -38,8 +38,9 @@ struct FrameProperty {
 /// Looks up the section and material of frame after frame; the material once for each section.
 class FramePropertyLookup {
  public:
-  explicit FramePropertyLookup(CModel& model)
-      : m_Assignments(model.Rows<T_FRSC_D>()), m_Sections(model.Rows<T_FRSG_D>()) {
+  explicit FramePropertyLookup(Conversion& run)
+      : m_Assignments(run.Source.Rows<T_FRSC_D>()), m_Sections(run.Source.Rows<T_FRSG_D>()) {
+    CModel& model = run.Source;
     const NonprismaticMaterials nonprismatic(model);
     m_Materials.reserve(m_Sections.Count());
     for (const auto [key, section] : m_Sections.Entries()) {
@@ -47,6 +48,9 @@ class FramePropertyLookup {
                                 ? nonprismatic.Of(section.SectionName)
                                 : MaterialOrLastKey(model, section.Material);
       m_Materials.emplace(key, material.value_or(FrameProperty::kNotFound));
+      if (run.Accounts.IsKept() && !(material && IsOwnMaterial(model, section))) {
+        run.Accounts.Note<T_FRSG_D>(key, "frame-section-material-unknown");
+      }
     }
   }
 
@@ -65,6 +69,12 @@ class FramePropertyLookup {
   }
 
  private:
+  /// Nonprismatic sections name none of their own.
+  static bool IsOwnMaterial(CModel& model, const T_FRSG_D& section) {
+    return section.Shape == kNonprismatic ||
+           model.Rows<T_MTGN_D>().FirstWith<&T_MTGN_D::Material>(section.Material);
+  }
+
   const CKeyedTable<T_FRSC_D>& m_Assignments;
   const CKeyedTable<T_FRSG_D>& m_Sections;
   std::unordered_map<std::uint32_t, std::int32_t> m_Materials;  // by the key of the section
@@ -151,7 +161,7 @@ bool ConvertFrames(Conversion& run) {
   // Meant so: set for every model with frames, though their angles are carried over. Mirrored
   // sections are not, and the engineer has to look at both.
   run.Warnings.bFrameLocalAxesLost = true;
-  const FramePropertyLookup properties(run.Source);
+  const FramePropertyLookup properties(run);
   auto& beams = run.Target.Table<T_NGT_FRAM_D>();
   beams.Reserve(frames.Count());
   bool allFound = true;

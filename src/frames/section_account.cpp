@@ -1,11 +1,11 @@
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
-#include "frames/materials.h"
-#include "frames/nonprismatic_materials.h"
 #include "frames/sections.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <optional>
 
 namespace s2k2ngt {
 
@@ -50,19 +50,9 @@ void NoteModifiers(Conversion& run, std::uint32_t key, const T_FRSG_D& source) {
   }
 }
 
-bool HasMaterial(CModel& model, const NonprismaticMaterials& nonprismatic, const T_FRSG_D& source) {
-  return source.Shape == kNonprismatic
-             ? nonprismatic.Of(source.SectionName).has_value()
-             : model.Rows<T_MTGN_D>().FirstWith<&T_MTGN_D::Material>(source.Material).has_value();
-}
-
 void NoteSections(Conversion& run) {
-  const NonprismaticMaterials nonprismatic(run.Source);
   const auto& sections = run.Target.Table<T_NGT_SECT_D>();
   for (const auto [key, source] : run.Source.Rows<T_FRSG_D>().Entries()) {
-    if (!HasMaterial(run.Source, nonprismatic, source)) {
-      run.Accounts.Note<T_FRSG_D>(key, "frame-section-material-unknown");
-    }
     NoteModifiers(run, key, source);
     const T_NGT_SECT_D* const section = sections.Find(key);
     if (section == nullptr) {

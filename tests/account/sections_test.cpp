@@ -54,9 +54,10 @@ TEST(AccountOfSectionsTest, SoundSectionsAreConverted) {
 }
 
 TEST(AccountOfSectionsTest, ASectionOfAnUnknownMaterialIsChanged) {
-  EXPECT_THAT(LossesOf(FrameMaterial() +
-                       Sections(SectionRow("SectionName=A   Material=S460   Shape=Circle   t3=1"))),
-              ElementsAre("SectionName=A: frame-section-material-unknown"));
+  EXPECT_THAT(LossesOf(FrameJoints() + FrameMaterial() + FrameConnectivity() + FrameAssignments() +
+                       Sections(Section("SectionName=BEAM   Shape=Circle") +
+                                SectionRow("SectionName=COLUMN   Material=S460   Shape=Circle"))),
+              ElementsAre("SectionName=COLUMN: frame-section-material-unknown"));
 }
 
 TEST(AccountOfSectionsTest, AShapeThatTheHostDoesNotHaveIsDropped) {
@@ -103,7 +104,7 @@ TEST(AccountOfNonprismaticSectionsTest, WithoutSegmentsTheSectionIsChanged) {
 }
 
 TEST(AccountOfNonprismaticSectionsTest, WithoutAMaterialTheSectionIsChanged) {
-  EXPECT_THAT(LossesOf(HaunchAndEnds()),
+  EXPECT_THAT(LossesOf(FrameConnectivity() + HaunchAndEnds()),
               Contains("SectionName=HAUNCH: frame-section-material-unknown"));
 }
 
