@@ -131,6 +131,13 @@ void Ledger::NoteBlock(Why why, Text message) {
   m_Blocks.back().Message = message;
 }
 
+void Ledger::KeepLabels(const TableBlock& block) {
+  std::map<std::uint32_t, std::string>& labels = m_Blocks.back().Labels;
+  for (std::uint32_t row = 0; row < block.Rows.size(); ++row) {
+    labels.emplace_hint(labels.end(), row, FirstPair(block.Rows[row].Content));
+  }
+}
+
 void Ledger::NoteRow(const TableBlock& block, std::uint32_t position, Why why) {
   const std::uint32_t row = position - 1;
   m_Blocks.back().Labels[row] = FirstPair(block.Rows[row].Content);

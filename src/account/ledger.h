@@ -38,6 +38,9 @@ class Ledger {
   /// Enters the rows of a block. `record` is the name of the record that the model is to keep them
   /// as; empty for a block that goes to no table of the model.
   void Enter(const TableBlock& block, Text record = {}, LabelFunction labelOf = {});
+  /// Keeps the labels of all rows of the block, which was entered last, as the model will not have
+  /// them.
+  void KeepLabels(const TableBlock& block);
   /// Gives all rows of the block that was entered last a reason. A message that the table calls
   /// for stands with it.
   void NoteBlock(Why why, Text message = {});
@@ -77,7 +80,7 @@ class Ledger {
     std::string Message;
     std::uint32_t Rows = 0;
     std::uint16_t WhyOfAll = kNone;
-    std::vector<std::uint16_t> Whys;    // of the rows, the worst of each; empty without any
+    std::vector<std::uint16_t> Whys;   // of the rows, the worst of each; empty without any
     std::vector<std::uint32_t> Lines;  // behind the title; empty when they follow it one by one
     LabelFunction LabelOf;             // of the rows that the model holds
     std::map<std::uint32_t, std::string>

@@ -482,9 +482,9 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "The host has no like of its design type: the load case is of the user's type.",
         "Set the type of the load case if the host combines load cases by it."),
     reasons::Changed(
-        "automatic-load-not-written",
-        "It goes by a code whose parameters are not in the output: the load case has no "
-        "wind or earthquake.",
+        "auto-load-of-other-design",
+        "It states a code, and its design type is neither wind nor earthquake: the load case is "
+        "written without the load.",
         "Enter the wind or the earthquake in the host."),
     reasons::Dropped("analysis-case-not-static", "Its analysis case is not a linear static one.",
                      "Apply the load by a linear static analysis case, and convert again."),

@@ -97,16 +97,6 @@ void WriteSelfWeights(Conversion& run, Text loadCase, LineWriter& out) {
 
 namespace {
 
-/// True when parameters of wind or earthquake are written for the load.
-bool HasParameters(CNgtModel& target, Text load) {
-  const auto are = [load]<class Parameters>(const CKeyedTable<Parameters>& table) {
-    return table.template FirstWith<&Parameters::LoadCase>(load).has_value();
-  };
-  return are(target.Table<T_NGT_WUB7_D>()) || are(target.Table<T_NGT_WIBC_D>()) ||
-         are(target.Table<T_NGT_WNBC_D>()) || are(target.Table<T_NGT_SUB7_D>()) ||
-         are(target.Table<T_NGT_SNBC_D>());
-}
-
 /// Notes what the load case of a load does not say of it.
 void NoteLoad(Conversion& run, std::uint32_t key, const T_LDCS_D& load, Text LCTYPE) {
   const auto first = run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(load.LoadCase);
@@ -120,8 +110,8 @@ void NoteLoad(Conversion& run, std::uint32_t key, const T_LDCS_D& load, Text LCT
     run.Accounts.Note<T_LDCS_D>(key, "design-type-without-like");
   }
   const bool statesCode = !load.AutoLoad.empty() && load.AutoLoad != kNoAutoLoad;
-  if (statesCode && !HasParameters(run.Target, load.LoadCase)) {
-    run.Accounts.Note<T_LDCS_D>(key, "automatic-load-not-written");
+  if (statesCode && LCTYPE != kWindType && LCTYPE != kSeismicType) {
+    run.Accounts.Note<T_LDCS_D>(key, "auto-load-of-other-design");
   }
 }
 

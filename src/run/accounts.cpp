@@ -72,10 +72,12 @@ constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
 void EnterBlock(const TableBlock& block, const TableOutcome& outcome, CModel& model,
                 Ledger& ledger) {
   const std::optional<TableUse> use = UseOfTable(outcome.Record);
-  if (use) {
-    ledger.Enter(block, outcome.Record, [&model, labelOf = use->Label](std::uint32_t key) {
-      return labelOf == nullptr ? std::string() : labelOf(model, key);
-    });
+  if (use && use->Label != nullptr) {
+    ledger.Enter(block, outcome.Record,
+                 [&model, labelOf = use->Label](std::uint32_t key) { return labelOf(model, key); });
+  } else if (use) {
+    ledger.Enter(block, outcome.Record);
+    ledger.KeepLabels(block);
   } else {
     ledger.Enter(block);
   }

@@ -40,6 +40,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <type_traits>
 
 namespace s2k2ngt {
@@ -51,17 +52,19 @@ struct Entry {
   TableUse Use;
 };
 
+/// True when the model keeps what stands first in the rows, by which people know them.
+template <class Record>
+constexpr bool HasLabel() {
+  const auto& keys = kRowKeys<Record>;
+  return std::size(keys) > 0 && std::begin(keys)->IsText();
+}
+
 template <class Record>
 std::string LabelOf(CModel& model, std::uint32_t key) {
   const Record* const row = model.Rows<Record>().Find(key);
-  if (row != nullptr) {
-    for (const RowKey<Record>& known : kRowKeys<Record>) {
-      if (known.IsText()) {
-        return std::string(TrimLeft(known.Name())).append(known.TextOf(*row));
-      }
-    }
-  }
-  return {};
+  const RowKey<Record>& first = *std::begin(kRowKeys<Record>);
+  return row == nullptr ? std::string()
+                        : std::string(TrimLeft(first.Name())).append(first.TextOf(*row));
 }
 
 template <class Record>
@@ -78,7 +81,9 @@ constexpr TableUse UseOf() {
 template <class Record>
 constexpr TableUse UseOfRows() {
   TableUse use = UseOf<Record>();
-  use.Label = LabelOf<Record>;
+  if constexpr (HasLabel<Record>()) {
+    use.Label = LabelOf<Record>;
+  }
   return use;
 }
 

@@ -23,7 +23,7 @@ struct TableUse {
   /// True for a table that is looked at and not converted.
   bool IsChecked = false;
   /// Gives the label by which people know a row that the model holds: the first text of its keys,
-  /// as "Joint=12". Null for a table of a single record.
+  /// as "Joint=12". Null where the model keeps none of them.
   std::string (*Label)(CModel& model, std::uint32_t key) = nullptr;
 };
 

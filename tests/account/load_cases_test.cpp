@@ -69,21 +69,9 @@ TEST(AccountOfLoadCasesTest, TheDesignTypeOtherIsConverted) {
   EXPECT_EQ(FatesOf(run, kLoads), "1 rows, 1 converted");
 }
 
-TEST(AccountOfLoadCasesTest, AWindByACodeWithoutLikeIsChanged) {
-  const AccountRun run =
-      Keep("   LoadCase=GRAVITY   DesignType=WIND   AutoLoad=\"BOCA 96\"\n", kGravity);
-  EXPECT_THAT(LossesOf(run, kLoads), ElementsAre("LoadCase=GRAVITY: automatic-load-not-written"));
-}
-
-TEST(AccountOfLoadCasesTest, AnEarthquakeWhoseParametersAreMissingIsChanged) {
-  const AccountRun run =
-      Keep("   LoadCase=GRAVITY   DesignType=QUAKE   AutoLoad=UBC97\n", kGravity);
-  EXPECT_THAT(LossesOf(run, kLoads), ElementsAre("LoadCase=GRAVITY: automatic-load-not-written"));
-}
-
 TEST(AccountOfLoadCasesTest, AnAutomaticLoadOfAnotherDesignIsChanged) {
   const AccountRun run = Keep("   LoadCase=GRAVITY   DesignType=LIVE   AutoLoad=UBC97\n", kGravity);
-  EXPECT_THAT(LossesOf(run, kLoads), ElementsAre("LoadCase=GRAVITY: automatic-load-not-written"));
+  EXPECT_THAT(LossesOf(run, kLoads), ElementsAre("LoadCase=GRAVITY: auto-load-of-other-design"));
 }
 
 struct AutomaticLoad {

@@ -41,22 +41,27 @@ TEST(AccountOfAutoLoads, OfTwoRowsTheOneThatTheWalkMeetsLaterIsDropped) {
 }
 
 TEST(AccountOfAutoLoads, RowsOfLoadsThatNoStaticCaseNamesAreDropped) {
-  EXPECT_THAT(KeepAccount(Ubc97("   LoadCase=EQ   Dir=X" + kParameters) +
-                          SourceTable("LOAD CASE DEFINITIONS",
-                                      "   LoadCase=EQ   DesignType=QUAKE   AutoLoad=UBC97\n"))
-                  .Losses(),
-              ElementsAre("LoadCase=EQ: load-case-not-static"));
+  EXPECT_THAT(
+      KeepAccount(Ubc97("   LoadCase=EQ   Dir=X" + kParameters) +
+                  SourceTable("LOAD CASE DEFINITIONS",
+                              "   LoadCase=EQ   DesignType=QUAKE   AutoLoad=UBC97\n"))
+          .Losses(),
+      ElementsAre("LoadCase=EQ: load-case-not-static", "LoadCase=EQ: load-case-not-static"));
 }
 
 TEST(AccountOfAutoLoads, RowsOfLoadsOfAnotherTypeOrCodeAreDropped) {
-  for (const char* load : {"DesignType=WIND   AutoLoad=None", "DesignType=LIVE   AutoLoad=UBC97",
-                           "DesignType=QUAKE   AutoLoad=None"}) {
+  for (const char* load : {"DesignType=WIND   AutoLoad=None", "DesignType=QUAKE   AutoLoad=None"}) {
     SCOPED_TRACE(load);
     EXPECT_THAT(
         KeepAccount(StaticCasesOf({{"EQ", load}}) + Ubc97("   LoadCase=EQ   Dir=X" + kParameters))
             .Losses(),
         ElementsAre("LoadCase=EQ: auto-load-not-asked-for"));
   }
+  EXPECT_THAT(KeepAccount(StaticCasesOf({{"EQ", "DesignType=LIVE   AutoLoad=UBC97"}}) +
+                          Ubc97("   LoadCase=EQ   Dir=X" + kParameters))
+                  .Losses(),
+              ElementsAre("LoadCase=EQ: auto-load-of-other-design",
+                          "LoadCase=EQ: auto-load-not-asked-for"));
   EXPECT_THAT(
       KeepAccount(AutomaticCases("QUAKE", {{"EQ", "UBC97"}}) +
                   Ubc97("   LoadCase=EQ   Dir=X" + kParameters) +
