@@ -92,6 +92,114 @@ inline constexpr auto kReasons = std::to_array<Reason>({
 
     // Joints
 
+    reasons::Changed("joint-not-there",
+                     "It names a joint that the file does not have: its line in the output names a "
+                     "node that is not there.",
+                     "Look for the joint in the source model."),
+    reasons::Dropped("row-of-same-name",
+                     "Another row of the same name is taken, and of each name one row alone.",
+                     "Look whether the rows say the same."),
+    reasons::Changed("joint-number-shared",
+                     "Another joint has the same label, or one that is read as the same number: "
+                     "both are nodes of one number.",
+                     "Give each joint a label of its own, without zeros in front."),
+    reasons::Changed("joint-coordinates-differ",
+                     "Its global coordinates are not those of its own system. SpecialJt chooses "
+                     "which are written: the global ones, 0 where they are not stated, or the "
+                     "others.",
+                     "Look at the node in the host, and at the coordinate system of the joint."),
+    reasons::Changed("turned-as-vector",
+                     "It acts along other axes than those of the host, and is turned as a force "
+                     "is, which is wrong for stiffnesses and masses.",
+                     "Enter the springs or masses of the joint in the host."),
+    reasons::Dropped("coupled-spring-at-turned-joint",
+                     "Coupled springs in global directions at a joint with axes of its own are not "
+                     "converted.",
+                     "State the springs along the axes of the joint."),
+    reasons::Changed("coupled-spring-diagonal",
+                     "A stiffness of a single direction stands behind couplings, the first of "
+                     "which is taken for it.",
+                     "Correct the matrix of the spring in *GSPRTYPE."),
+    reasons::Changed("coupled-spring-rotations",
+                     "Couplings of rotations with each other are not converted: 0 is written.",
+                     "Correct the matrix of the spring in *GSPRTYPE."),
+    reasons::Changed("joint-axes-missing",
+                     "The joint is said to have advanced local axes, and has no row of them: its "
+                     "angles stand alone.",
+                     "Look at the axes of the node in the host."),
+    reasons::Changed("joint-axes-angles",
+                     "The joint has advanced local axes, which its angles turn further: the angles "
+                     "are not written.",
+                     "Turn the axes of the node in the host."),
+    reasons::Dropped("joint-axes-not-asked-for",
+                     "No row of typical local axes of the joint says that it has advanced ones.",
+                     "Look at the axes of the joint in the source model."),
+    reasons::Changed("joint-axes-span-no-plane",
+                     "Its axis and its plane give no axes: vectors of 0, or in one line, are "
+                     "written, and nothing at the joint is turned.",
+                     "Enter the axes of the node in the host."),
+    reasons::Changed("joint-axes-joint-unknown",
+                     "It goes by a joint that the file does not have, for which the origin is "
+                     "taken.",
+                     "Look for the joint in the source model."),
+
+    reasons::Dropped("constraint-local",
+                     "The host has no constraints along the axes of each joint.",
+                     "Enter it in the host as rigid links in global directions."),
+    reasons::Dropped("constraint-kind-unknown", "The constraint is of no kind that is known.",
+                     "Enter it in the host as a rigid link."),
+    reasons::Dropped("constraint-without-name",
+                     "It names no constraint, and others of its kind are there.",
+                     "Give the constraint a name."),
+    reasons::Redundant("constraint-of-one-joint",
+                       "The constraint has a single joint, and ties it to nothing.",
+                       "There is nothing to do."),
+    reasons::Redundant("constraint-without-joints", "The constraint has no joint.",
+                       "There is nothing to do."),
+    reasons::Dropped("constraint-undefined", "No constraint of its kind is defined.",
+                     "Enter it in the host as a rigid link."),
+    reasons::Changed(
+        "constraint-definition-missing",
+        "Of the constraints of its kind none bears its name: the rigid link is written "
+        "without directions.",
+        "Set the directions of the rigid link in the host."),
+    reasons::Dropped("constraint-automatic-axis",
+                     "Its axis is none of X, Y and Z, as one that the source program finds itself.",
+                     "State the axis, or enter the rigid link in the host."),
+    reasons::Changed("constraint-kind-of-another-row",
+                     "Another row says that its constraint is of another kind, and is believed.",
+                     "Give constraints of different kinds different names."),
+    reasons::Dropped("constraint-of-other-kind",
+                     "The joints of its name are assigned to a constraint of another kind.",
+                     "Give constraints of different kinds different names."),
+    reasons::Changed("constraint-names-no-joint",
+                     "Joint labels are not all numbers: the rigid link is written without nodes.",
+                     "Give all joints numbers as labels, or enter the rigid link in the host."),
+    reasons::Changed("constraint-without-master",
+                     "Masses decide which joint is the master, and none of its joints has one: the "
+                     "rigid link has no master.",
+                     "Set the master node in the host."),
+    reasons::Dropped("constraint-first-joint-lost",
+                     "Masses decide which joint is the master, and none of its joints has one: the "
+                     "first is left out.",
+                     "Make it the master node in the host."),
+    reasons::Reworded("constraint-repeated",
+                      "The rigid link is written several times, as of the third and each further "
+                      "beam or body constraint.",
+                      "Delete the ones too many in the host."),
+    reasons::Changed("constraint-as-diaphragm",
+                     "The rigid link has the directions of a diaphragm across the axis, which are "
+                     "not those of a beam, plate or rod.",
+                     "Correct the directions of the rigid link in the host."),
+    reasons::Changed(
+        "constraint-as-rigid-body",
+        "The rigid link ties all of its joints as one rigid body, which an equal, line "
+        "or weld constraint does not.",
+        "Look at the rigid link in the host, and divide it where joints lie apart."),
+    reasons::Changed("diaphragm-of-many-levels",
+                     "It makes a diaphragm of each level: one rigid link ties the joints of all.",
+                     "Divide the rigid link by levels in the host."),
+
     // Frames
 
     reasons::Changed("frame-joint-unknown",
@@ -828,6 +936,76 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Look at the term in the host."),
 
     // Bridges
+
+    reasons::Changed(
+        "element-not-there",
+        "It names an element that the file does not have: its line in the output names "
+        "one that is not there.",
+        "Look for the element in the source model."),
+    reasons::Dropped("analysis-case-missing", "No analysis case of its kind asks for it.",
+                     "Add an analysis case that does, or take it out of the source model."),
+    reasons::Changed("written-in-parts",
+                     "Rows of other names come between those of its name: it is written in several "
+                     "parts under one name. Vehicle classes do not go by the order of the rows.",
+                     "Put the parts together in the host."),
+    reasons::Changed("lane-without-name", "It stands in the output before the first lane.",
+                     "Give the lane a name."),
+    reasons::Dropped("vehicle-not-of-host", "The host has no standard vehicle of this type.",
+                     "Enter the vehicle in the host, or choose another."),
+    reasons::Changed("vehicle-scale-factor",
+                     "The scale factor of the vehicle is not carried over as it stands.",
+                     "Put it into the scale factor of the moving load case."),
+    reasons::Changed("vehicle-dynamic-allowance",
+                     "The dynamic allowance of the vehicle is not carried over.",
+                     "Set the impact factor in the host."),
+    reasons::Reworded("vehicle-named-by-type",
+                      "The vehicle has the name that the host has for its type.",
+                      "Look for the vehicle under that name."),
+    reasons::Dropped("vehicle-without-axles",
+                     "No general vehicle of the file has axles between its ends, and none is "
+                     "converted.",
+                     "Enter the vehicle in the host."),
+    reasons::Changed("vehicle-values-left-out",
+                     "Of its loads and distances some are not written, or stand in the place of "
+                     "others: the host has other places for vehicles with and without a uniform "
+                     "load behind.",
+                     "Correct the vehicle in the host."),
+    reasons::Dropped("axle-left-out", "The axle is not written.",
+                     "Add the axle to the vehicle in the host."),
+    reasons::Dropped("axle-of-unknown-vehicle", "The file has no general vehicle of its name.",
+                     "Look for the vehicle in the source model."),
+    reasons::Dropped("class-vehicle-missing",
+                     "Its vehicle is not in the output: the class is written without it.",
+                     "Add the vehicle to the class in the host."),
+    reasons::Dropped("class-without-name", "The vehicle class has no name.",
+                     "Give the class a name."),
+    reasons::Dropped("moving-case-without-class",
+                     "No vehicle class bears the name of the moving load case.",
+                     "Give the case the name of its vehicle class, and convert again."),
+    reasons::Dropped("behind-left-out-cases",
+                     "As many rows as moving load cases leave out before are lost at the end of "
+                     "their table.",
+                     "Give each moving load case the name of a vehicle class, and convert again."),
+    reasons::Changed("max-loaded-zero",
+                     "The number of lanes loaded at most is 0, for which 1 is written.",
+                     "Set the number of lanes in the host."),
+    reasons::Changed("vehicle-class-not-written",
+                     "It names a vehicle class that is not in the output.",
+                     "Enter the vehicle class in the host."),
+    reasons::Dropped("moving-case-not-written",
+                     "Its moving load case, or this assignment of it, is not in the output.",
+                     "Look what the assignment is lost by."),
+    reasons::Changed("lane-unknown", "It names a lane that the file does not have.",
+                     "Look for the lane in the source model."),
+    reasons::Dropped("factor-beyond-four-lanes",
+                     "The host has factors for one to four loaded lanes.",
+                     "Set the factors in the host."),
+    reasons::Changed("factor-of-nothing", "Its factor is 0 or less, for which 1 is written.",
+                     "Set the factor in the host."),
+    reasons::Dropped("bridge-response-incomplete",
+                     "It does not say of displacements, reactions and frames each for which the "
+                     "response is wanted.",
+                     "State all three, by None or ALL."),
 });
 
 /// A reason of the list, by its code; any other does not compile.

@@ -3,9 +3,12 @@
 #include "common/value_map.h"
 #include "joints/joint_with_mass.h"
 #include "joints/masses.h"
+#include "joints/nodes.h"
 
 #include <algorithm>
+#include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -18,6 +21,33 @@ namespace s2k2ngt {
 namespace {
 
 enum class Master { FirstJoint, JointWithMass };
+
+/// Notes all joints of a constraint.
+void NoteMembers(Conversion& run, Text constraint, Why why) {
+  if (run.Accounts.IsKept()) {
+    for (const std::uint32_t key :
+         run.Source.Rows<T_JTCA_D>().KeysWith<&T_JTCA_D::Constraint>(constraint)) {
+      run.Accounts.Note<T_JTCA_D>(key, why);
+    }
+  }
+}
+
+/// Notes what a definition that is written states beyond its link.
+template <class Definition>
+void NoteDefinition(Conversion& run, std::uint32_t key, const Definition& definition) {
+  if (IsUserSystem(definition.CoordSys)) {
+    run.Accounts.Note<Definition>(key, "coordinate-system-ignored");
+  }
+  if constexpr (std::same_as<Definition, T_CDDP_D>) {
+    if (definition.MultiLevel) {
+      run.Accounts.Note<T_CDDP_D>(key, "diaphragm-of-many-levels");
+    }
+  } else if constexpr (std::derived_from<Definition, ConstraintByAxis>) {
+    run.Accounts.Note<Definition>(key, "constraint-as-diaphragm");
+  } else if constexpr (!std::same_as<Definition, T_CDBD_D>) {
+    run.Accounts.Note<Definition>(key, "constraint-as-rigid-body");
+  }
+}
 
 /// The joints of a constraint as they stand in a link, in the order of their rows.
 std::vector<Text> JointsOf(Conversion& run, Text constraint) {
@@ -44,6 +74,7 @@ Text JoinWithBlanks(const std::vector<Text>& words, TextStore& texts) {
 std::optional<T_NGT_RLNK_D> CollectNodes(Conversion& run, Text constraint, Master master) {
   std::vector<Text> slaves = JointsOf(run, constraint);
   if (slaves.size() < 2) {
+    NoteMembers(run, constraint, "constraint-of-one-joint");
     return std::nullopt;
   }
   T_NGT_RLNK_D link;
@@ -91,23 +122,50 @@ template <class Definition>
 std::optional<T_NGT_RLNK_D> LinkOf(Conversion& run, Text constraint, Master master) {
   std::optional<T_NGT_RLNK_D> link = CollectNodes(run, constraint, master);
   const auto& definitions = run.Source.Rows<Definition>();
-  if (!link || definitions.Empty()) {
+  if (!link) {
+    return std::nullopt;
+  }
+  if (definitions.Empty()) {
+    NoteMembers(run, constraint, "constraint-undefined");
     return std::nullopt;
   }
   if (const auto found = definitions.template FirstWith<&Definition::Name>(constraint)) {
     const std::optional<Text> directions = DirectionsOf(run, found->Value);
     if (!directions) {
+      NoteMembers(run, constraint, "constraint-automatic-axis");
+      run.Accounts.Note<Definition>(found->Key, "constraint-automatic-axis");
       return std::nullopt;
     }
     link->DOF = *directions;
+    NoteDefinition(run, found->Key, found->Value);
   }
   return link;
+}
+
+/// Notes the definitions of a kind that no rigid link comes from.
+template <class Definition>
+void CloseDefinitions(Conversion& run, Text type) {
+  const auto& memberships = run.Source.Rows<T_JTCA_D>();
+  const auto& definitions = run.Source.Rows<Definition>();
+  for (const auto [key, definition] : definitions.Entries()) {
+    const auto member = memberships.FirstWith<&T_JTCA_D::Constraint>(definition.Name);
+    if (!member) {
+      run.Accounts.Note<Definition>(key, "constraint-without-joints");
+    } else if (member->Value.Type != type) {
+      run.Accounts.Note<Definition>(key, "constraint-of-other-kind");
+    } else if (definitions.template FirstWith<&Definition::Name>(definition.Name)->Key != key) {
+      run.Accounts.Note<Definition>(key, "row-of-same-name");
+    } else if (memberships.KeysWith<&T_JTCA_D::Constraint>(definition.Name).size() < 2) {
+      run.Accounts.Note<Definition>(key, "constraint-of-one-joint");
+    }
+  }
 }
 
 /// What becomes of a kind of constraint.
 struct Kind {
   Text Type;
   std::optional<T_NGT_RLNK_D> (*Convert)(Conversion& run, Text constraint, Master master);
+  void (*Close)(Conversion& run, Text type);
   Master MasterJoint;
   bool Repeated;  // Beam and Body: see RepeatedLinks
 };
@@ -115,14 +173,14 @@ struct Kind {
 constexpr Text kBody = "Body";
 
 constexpr std::array kKinds = std::to_array<Kind>({
-    {"Beam", LinkOf<T_CDBM_D>, Master::FirstJoint, true},
-    {kBody, LinkOf<T_CDBD_D>, Master::FirstJoint, true},
-    {"Diaphragm", LinkOf<T_CDDP_D>, Master::JointWithMass, false},
-    {"Equal", LinkOf<T_CDEL_D>, Master::FirstJoint, false},
-    {"Line", LinkOf<T_CDLN_D>, Master::FirstJoint, false},
-    {"Plate", LinkOf<T_CDPL_D>, Master::JointWithMass, false},
-    {"Rod", LinkOf<T_CDRD_D>, Master::FirstJoint, false},
-    {"Weld", LinkOf<T_CDWL_D>, Master::FirstJoint, false},
+    {"Beam", LinkOf<T_CDBM_D>, CloseDefinitions<T_CDBM_D>, Master::FirstJoint, true},
+    {kBody, LinkOf<T_CDBD_D>, CloseDefinitions<T_CDBD_D>, Master::FirstJoint, true},
+    {"Diaphragm", LinkOf<T_CDDP_D>, CloseDefinitions<T_CDDP_D>, Master::JointWithMass, false},
+    {"Equal", LinkOf<T_CDEL_D>, CloseDefinitions<T_CDEL_D>, Master::FirstJoint, false},
+    {"Line", LinkOf<T_CDLN_D>, CloseDefinitions<T_CDLN_D>, Master::FirstJoint, false},
+    {"Plate", LinkOf<T_CDPL_D>, CloseDefinitions<T_CDPL_D>, Master::JointWithMass, false},
+    {"Rod", LinkOf<T_CDRD_D>, CloseDefinitions<T_CDRD_D>, Master::FirstJoint, false},
+    {"Weld", LinkOf<T_CDWL_D>, CloseDefinitions<T_CDWL_D>, Master::FirstJoint, false},
 });
 
 /// How often the link of a Beam or Body constraint is made: the first and the second of a kind make
@@ -150,6 +208,39 @@ class RepeatedLinks {
 
 }  // namespace
 
+namespace {
+
+/// Notes of the joints of a rigid link what it does not say of them as they say it.
+void NoteLinked(Conversion& run, const Kind& kind, Text constraint, const T_NGT_RLNK_D& link,
+                std::size_t count) {
+  const auto& memberships = run.Source.Rows<T_JTCA_D>();
+  bool isFirst = true;
+  for (const std::uint32_t key : memberships.KeysWith<&T_JTCA_D::Constraint>(constraint)) {
+    const T_JTCA_D& row = *memberships.Find(key);
+    if (!run.Target.NodeLabelsNumeric) {
+      run.Accounts.Note<T_JTCA_D>(key, "constraint-names-no-joint");
+    } else if (const std::optional<Why> why = LossOfJoint(run, row.Joint)) {
+      run.Accounts.Note<T_JTCA_D>(key, *why);
+    }
+    if (row.Type != kind.Type) {
+      run.Accounts.Note<T_JTCA_D>(key, "constraint-kind-of-another-row");
+    }
+    if (link.DOF.empty()) {
+      run.Accounts.Note<T_JTCA_D>(key, "constraint-definition-missing");
+    }
+    if (link.MNODE.empty()) {
+      run.Accounts.Note<T_JTCA_D>(
+          key, isFirst ? Why("constraint-first-joint-lost") : Why("constraint-without-master"));
+    }
+    if (count > 1) {
+      run.Accounts.Note<T_JTCA_D>(key, "constraint-repeated");
+    }
+    isFirst = false;
+  }
+}
+
+}  // namespace
+
 bool ConvertConstraints(Conversion& run) {
   auto& links = run.Target.Table<T_NGT_RLNK_D>();
   ValueMap<Text, std::monostate> handled;
@@ -160,20 +251,26 @@ bool ConvertConstraints(Conversion& run) {
     }
     if (membership.Type == "Local") {
       run.Target.bConstraintLocal = true;
+      NoteMembers(run, membership.Constraint, "constraint-local");
       continue;
     }
     const auto* const kind = std::ranges::find(kKinds, membership.Type, &Kind::Type);
     if (kind == kKinds.end()) {
+      NoteMembers(run, membership.Constraint, "constraint-kind-unknown");
       continue;
     }
     const std::size_t count =
         kind->Repeated ? repeated.CountFor(kind->Type, membership.Constraint) : 1;
     if (count == 0) {
+      NoteMembers(run, membership.Constraint, "constraint-without-name");
       continue;
     }
     if (const auto link = kind->Convert(run, membership.Constraint, kind->MasterJoint)) {
       for (std::size_t index = 0; index < count; ++index) {
         links.Append(*link);
+      }
+      if (run.Accounts.IsKept()) {
+        NoteLinked(run, *kind, membership.Constraint, *link, count);
       }
     }
   }
@@ -200,6 +297,15 @@ bool WriteRigidLinks(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+void CloseConstraints(Conversion& run) {
+  for (const Kind& kind : kKinds) {
+    kind.Close(run, kind.Type);
+  }
+  run.Accounts.NoteAll<T_CDLC_D>("constraint-local");
 }
 
 }  // namespace s2k2ngt

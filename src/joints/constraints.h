@@ -28,24 +28,29 @@ inline constexpr RowKey<T_JTCA_D> kRowKeys<T_JTCA_D>[] = {{"Joint=", &T_JTCA_D::
 /// Definition of a constraint about an axis: "X", "Y", "Z", or one that the source program finds.
 struct ConstraintByAxis {
   Text Name;
+  Text CoordSys;  // for the account
   Text Axis;
 };
 
 template <std::derived_from<ConstraintByAxis> Record>
 inline constexpr RowKey<Record> kRowKeys<Record>[] = {
-    {"Name=", &ConstraintByAxis::Name}, Unread{"CoordSys="}, {"Axis=", &ConstraintByAxis::Axis}};
+    {"Name=", &ConstraintByAxis::Name},
+    Noted<Record, Text>{"CoordSys=", &ConstraintByAxis::CoordSys},
+    {"Axis=", &ConstraintByAxis::Axis}};
 
 struct T_CDBM_D : ConstraintByAxis {  // beam
   static constexpr Text kTable = "T_CDBM_D";
 };
 struct T_CDDP_D : ConstraintByAxis {  // diaphragm
   static constexpr Text kTable = "T_CDDP_D";
+  bool MultiLevel = false;  // for the account
 };
 template <>
-inline constexpr RowKey<T_CDDP_D> kRowKeys<T_CDDP_D>[] = {{"Name=", &T_CDDP_D::Name},
-                                                          Unread{"CoordSys="},
-                                                          {"Axis=", &T_CDDP_D::Axis},
-                                                          Unread{"MultiLevel="}};
+inline constexpr RowKey<T_CDDP_D> kRowKeys<T_CDDP_D>[] = {
+    {"Name=", &T_CDDP_D::Name},
+    Noted<T_CDDP_D, Text>{"CoordSys=", &T_CDDP_D::CoordSys},
+    {"Axis=", &T_CDDP_D::Axis},
+    Noted{"MultiLevel=", &T_CDDP_D::MultiLevel}};
 struct T_CDPL_D : ConstraintByAxis {  // plate
   static constexpr Text kTable = "T_CDPL_D";
 };
@@ -56,6 +61,7 @@ struct T_CDRD_D : ConstraintByAxis {  // rod
 /// Definition of a constraint of the directions that it names.
 struct ConstraintByFlags {
   Text Name;
+  Text CoordSys;  // for the account
   bool UX = false;
   bool UY = false;
   bool UZ = false;
@@ -66,10 +72,14 @@ struct ConstraintByFlags {
 
 template <std::derived_from<ConstraintByFlags> Record>
 inline constexpr RowKey<Record> kRowKeys<Record>[] = {
-    {"Name=", &ConstraintByFlags::Name}, Unread{"CoordSys="},
-    {"UX=", &ConstraintByFlags::UX},     {"UY=", &ConstraintByFlags::UY},
-    {"UZ=", &ConstraintByFlags::UZ},     {"RX=", &ConstraintByFlags::RX},
-    {"RY=", &ConstraintByFlags::RY},     {"RZ=", &ConstraintByFlags::RZ}};
+    {"Name=", &ConstraintByFlags::Name},
+    Noted<Record, Text>{"CoordSys=", &ConstraintByFlags::CoordSys},
+    {"UX=", &ConstraintByFlags::UX},
+    {"UY=", &ConstraintByFlags::UY},
+    {"UZ=", &ConstraintByFlags::UZ},
+    {"RX=", &ConstraintByFlags::RX},
+    {"RY=", &ConstraintByFlags::RY},
+    {"RZ=", &ConstraintByFlags::RZ}};
 
 struct T_CDBD_D : ConstraintByFlags {  // body
   static constexpr Text kTable = "T_CDBD_D";
@@ -112,5 +122,10 @@ bool ConvertConstraints(Conversion& run);
 
 /// Writes *RIGIDLINK.
 bool WriteRigidLinks(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes the definitions that no rigid link comes from.
+void CloseConstraints(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -3,7 +3,9 @@
 #include "joints/matrix_rows.h"
 #include "joints/nodes.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -76,6 +78,10 @@ Matrix MatrixFromAngles(const T_NGT_LOCL_D& axes) {
   return product.value_or(kIdentity);
 }
 
+bool HasAngles(const T_NGT_LOCL_D& axes) {
+  return std::abs(axes.ANGLE_x) + std::abs(axes.ANGLE_y) + std::abs(axes.ANGLE_z) > kTolerance;
+}
+
 /// The unit vector of a direction such as "-Y"; zero for any other text.
 Vector DirectionVector(Text direction) {
   constexpr std::array<std::pair<Text, Vector>, 6> kDirections = {{{"X", {1.0, 0.0, 0.0}},
@@ -92,9 +98,12 @@ Vector DirectionVector(Text direction) {
   return {};
 }
 
+constexpr Text kTwoJoints = "Two Joints";
+
 /// What an advanced axes row says of the axis, or of the vector in the plane.
 struct VectorGiven {
   Text Option;
+  Text System;  // for the account
   Text Direction;
   Text Joint1;
   Text Joint2;
@@ -102,7 +111,7 @@ struct VectorGiven {
 };
 
 Vector Evaluate(CModel& model, const VectorGiven& given) {
-  if (given.Option == "Two Joints") {
+  if (given.Option == kTwoJoints) {
     const Point from = GlobalCoordinates(model, given.Joint1);
     const Point to = GlobalCoordinates(model, given.Joint2);
     return {to.X - from.X, to.Y - from.Y, to.Z - from.Z};
@@ -151,27 +160,56 @@ T_NGT_LCMX_D MatrixFromVectors(const T_NGT_LOCL_D& axes) {
                            UnitVector(v3, length3)})};
 }
 
-void ConvertAdvancedAxes(CModel& model, T_NGT_LOCL_D& axes, MatrixRows& matrices) {
-  const auto found = model.Rows<T_JTAV_D>().FirstWith<&T_JTAV_D::Joint>(axes.Label);
+/// Notes what an advanced axes row names that is not known.
+void NoteVector(Conversion& run, std::uint32_t key, const VectorGiven& given) {
+  const auto isUnknown = [&run](Text joint) { return LossOfJoint(run, joint).has_value(); };
+  if (given.Option != kTwoJoints) {
+    if (IsUserSystem(given.System)) {
+      run.Accounts.Note<T_JTAV_D>(key, "coordinate-system-ignored");
+    }
+  } else if (isUnknown(given.Joint1) || isUnknown(given.Joint2)) {
+    run.Accounts.Note<T_JTAV_D>(key, "joint-axes-joint-unknown");
+  }
+}
+
+/// Sets the vectors of the node from the joint's advanced axes, if it has any.
+void ConvertAdvancedAxes(Conversion& run, std::uint32_t typicalKey, T_NGT_LOCL_D& axes,
+                         MatrixRows& matrices) {
+  const auto found = run.Source.Rows<T_JTAV_D>().FirstWith<&T_JTAV_D::Joint>(axes.Label);
   if (!found) {
+    run.Accounts.Note<T_JTTP_D>(typicalKey, "joint-axes-missing");
     return;
   }
   const T_JTAV_D& row = found->Value;
-  const Vector axis = Evaluate(model, {.Option = row.AxOption1,
-                                       .Direction = row.AxCoordDir,
-                                       .Joint1 = row.AxVecJt1,
-                                       .Joint2 = row.AxVecJt2,
-                                       .User = {row.AxVecX, row.AxVecY, row.AxVecZ}});
+  const VectorGiven axisGiven = {.Option = row.AxOption1,
+                                 .System = row.AxCoordSys,
+                                 .Direction = row.AxCoordDir,
+                                 .Joint1 = row.AxVecJt1,
+                                 .Joint2 = row.AxVecJt2,
+                                 .User = {row.AxVecX, row.AxVecY, row.AxVecZ}};
   // Of the two directions the one that does not repeat the axis.
   const Text planeDirection = row.CoordDir1 == row.AxCoordDir ? row.CoordDir2 : row.CoordDir1;
-  const Vector plane = Evaluate(model, {.Option = row.PlOption1,
-                                        .Direction = planeDirection,
-                                        .Joint1 = row.PlVecJt1,
-                                        .Joint2 = row.PlVecJt2,
-                                        .User = {row.PlVecX, row.PlVecY, row.PlVecZ}});
-  SetVectors(row.LocalPlane, axis, plane, axes);
+  const VectorGiven planeGiven = {.Option = row.PlOption1,
+                                  .System = row.PlCoordSys,
+                                  .Direction = planeDirection,
+                                  .Joint1 = row.PlVecJt1,
+                                  .Joint2 = row.PlVecJt2,
+                                  .User = {row.PlVecX, row.PlVecY, row.PlVecZ}};
+  SetVectors(row.LocalPlane, Evaluate(run.Source, axisGiven), Evaluate(run.Source, planeGiven),
+             axes);
   axes.iMETHOD = 3;
-  matrices.ReplaceOrAppend(axes.Label, MatrixFromVectors(axes));
+  const T_NGT_LCMX_D matrix = MatrixFromVectors(axes);
+  matrices.ReplaceOrAppend(axes.Label, matrix);
+  if (run.Accounts.IsKept()) {
+    NoteVector(run, found->Key, axisGiven);
+    NoteVector(run, found->Key, planeGiven);
+    if (matrix.Label != axes.Label) {
+      run.Accounts.Note<T_JTAV_D>(found->Key, "joint-axes-span-no-plane");
+    }
+    if (HasAngles(axes)) {
+      run.Accounts.Note<T_JTTP_D>(typicalKey, "joint-axes-angles");
+    }
+  }
 }
 
 }  // namespace
@@ -187,11 +225,11 @@ bool ConvertLocalAxes(Conversion& run) {
                       .ANGLE_x = joint.AngleC,
                       .ANGLE_y = joint.AngleB,
                       .ANGLE_z = joint.AngleA};
-    if (std::abs(axes.ANGLE_x) + std::abs(axes.ANGLE_y) + std::abs(axes.ANGLE_z) > kTolerance) {
+    if (HasAngles(axes)) {
       matrices.Append({axes.Label, MatrixFromAngles(axes)});
     }
     if (joint.AdvanceAxes) {
-      ConvertAdvancedAxes(run.Source, axes, matrices);
+      ConvertAdvancedAxes(run, key, axes, matrices);
     }
     nodes.Insert(key, axes);
   }
@@ -250,6 +288,31 @@ bool WriteLocalAxes(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+/// True when a row of typical axes of the joint asks for its advanced ones.
+bool AreAdvancedAxesAskedFor(CModel& model, Text joint) {
+  const auto& rows = model.Rows<T_JTTP_D>();
+  return std::ranges::any_of(rows.KeysWith<&T_JTTP_D::Joint>(joint),
+                             [&rows](std::uint32_t key) { return rows.Find(key)->AdvanceAxes; });
+}
+
+}  // namespace
+
+void CloseLocalAxes(Conversion& run) {
+  NoteUnknownJoints<T_JTTP_D>(run);
+  const auto& rows = run.Source.Rows<T_JTAV_D>();
+  for (const auto [key, row] : rows.Entries()) {
+    if (rows.FirstWith<&T_JTAV_D::Joint>(row.Joint)->Key != key) {
+      run.Accounts.Note<T_JTAV_D>(key, "row-of-same-name");
+    } else if (!AreAdvancedAxesAskedFor(run.Source, row.Joint)) {
+      run.Accounts.Note<T_JTAV_D>(key, "joint-axes-not-asked-for");
+    }
+  }
 }
 
 }  // namespace s2k2ngt

@@ -35,10 +35,12 @@ struct T_JTAV_D {
   Text Joint;
   Text LocalPlane;  // axis and other axis of the plane: "12", "13", "21", "23", "31" or "32"
   Text AxOption1;   // "Coord Dir", "Two Joints" or "User Vector"; so also PlOption1
+  Text AxCoordSys;  // for the account; so also PlCoordSys
   Text AxCoordDir;  // "X", "Y", "Z", "-X", "-Y" or "-Z"; so also the other directions
   Text AxVecJt1;
   Text AxVecJt2;
   Text PlOption1;
+  Text PlCoordSys;
   Text CoordDir1;
   Text CoordDir2;
   Text PlVecJt1;
@@ -52,25 +54,26 @@ struct T_JTAV_D {
 };
 
 template <>
-inline constexpr RowKey<T_JTAV_D> kRowKeys<T_JTAV_D>[] = {{"Joint=", &T_JTAV_D::Joint},
-                                                          {"LocalPlane=", &T_JTAV_D::LocalPlane},
-                                                          {"AxOption1=", &T_JTAV_D::AxOption1},
-                                                          Unread{"AxCoordSys="},
-                                                          {"AxCoordDir=", &T_JTAV_D::AxCoordDir},
-                                                          {"AxVecJt1=", &T_JTAV_D::AxVecJt1},
-                                                          {"AxVecJt2=", &T_JTAV_D::AxVecJt2},
-                                                          {"PlOption1=", &T_JTAV_D::PlOption1},
-                                                          Unread{"PlCoordSys="},
-                                                          {"CoordDir1=", &T_JTAV_D::CoordDir1},
-                                                          {"CoordDir2=", &T_JTAV_D::CoordDir2},
-                                                          {"PlVecJt1=", &T_JTAV_D::PlVecJt1},
-                                                          {"PlVecJt2=", &T_JTAV_D::PlVecJt2},
-                                                          {"AxVecX=", &T_JTAV_D::AxVecX},
-                                                          {"AxVecY=", &T_JTAV_D::AxVecY},
-                                                          {"AxVecZ=", &T_JTAV_D::AxVecZ},
-                                                          {"PlVecX=", &T_JTAV_D::PlVecX},
-                                                          {"PlVecY=", &T_JTAV_D::PlVecY},
-                                                          {"PlVecZ=", &T_JTAV_D::PlVecZ}};
+inline constexpr RowKey<T_JTAV_D> kRowKeys<T_JTAV_D>[] = {
+    {"Joint=", &T_JTAV_D::Joint},
+    {"LocalPlane=", &T_JTAV_D::LocalPlane},
+    {"AxOption1=", &T_JTAV_D::AxOption1},
+    Noted{"AxCoordSys=", &T_JTAV_D::AxCoordSys},
+    {"AxCoordDir=", &T_JTAV_D::AxCoordDir},
+    {"AxVecJt1=", &T_JTAV_D::AxVecJt1},
+    {"AxVecJt2=", &T_JTAV_D::AxVecJt2},
+    {"PlOption1=", &T_JTAV_D::PlOption1},
+    Noted{"PlCoordSys=", &T_JTAV_D::PlCoordSys},
+    {"CoordDir1=", &T_JTAV_D::CoordDir1},
+    {"CoordDir2=", &T_JTAV_D::CoordDir2},
+    {"PlVecJt1=", &T_JTAV_D::PlVecJt1},
+    {"PlVecJt2=", &T_JTAV_D::PlVecJt2},
+    {"AxVecX=", &T_JTAV_D::AxVecX},
+    {"AxVecY=", &T_JTAV_D::AxVecY},
+    {"AxVecZ=", &T_JTAV_D::AxVecZ},
+    {"PlVecX=", &T_JTAV_D::PlVecX},
+    {"PlVecY=", &T_JTAV_D::PlVecY},
+    {"PlVecZ=", &T_JTAV_D::PlVecZ}};
 
 // ---- Target records ----
 
@@ -120,5 +123,10 @@ SixComponents TurnToLocal(CNgtModel& target, Text joint, const SixComponents& gl
 
 /// Writes *LOCALAXIS.
 bool WriteLocalAxes(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes axes of joints that are not there, and advanced axes that no typical ones ask for.
+void CloseLocalAxes(Conversion& run);
 
 }  // namespace s2k2ngt

@@ -1,6 +1,7 @@
 #include "joints/masses.h"
 
 #include "joints/local_axes.h"
+#include "joints/nodes.h"
 
 #include <cstdint>
 
@@ -10,10 +11,14 @@ namespace s2k2ngt {
 
 bool ConvertJointMasses(Conversion& run) {
   for (const auto [key, joint] : run.Source.Rows<T_JTMA_D>().Walk()) {
-    SixComponents mass = {joint.Mass1, joint.Mass2, joint.Mass3,
-                          joint.MMI1,  joint.MMI2,  joint.MMI3};
+    const SixComponents stated = {joint.Mass1, joint.Mass2, joint.Mass3,
+                                  joint.MMI1,  joint.MMI2,  joint.MMI3};
+    SixComponents mass = stated;
     if (joint.CoordSys == "Local") {
-      mass = TurnToGlobal(run.Target, joint.Joint, mass);
+      mass = TurnToGlobal(run.Target, joint.Joint, stated);
+      if (run.Accounts.IsKept() && mass != stated) {
+        run.Accounts.Note<T_JTMA_D>(key, "turned-as-vector");
+      }
     }
     AddMass(run.Target, {joint.Joint, mass[0], mass[1], mass[2], mass[3], mass[4], mass[5]});
   }
@@ -52,6 +57,13 @@ bool WriteMasses(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+void CloseMasses(Conversion& run) {
+  NoteUnknownJoints<T_JTMA_D>(run);
+  NoteUserSystems<T_JTMA_D>(run);
 }
 
 }  // namespace s2k2ngt

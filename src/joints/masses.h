@@ -53,4 +53,9 @@ void AddMass(CNgtModel& target, const T_NGT_NDMS_D& mass);
 /// Writes *NODALMASS.
 bool WriteMasses(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes masses of joints that are not there, and of systems that are not known.
+void CloseMasses(Conversion& run);
+
 }  // namespace s2k2ngt

@@ -2,6 +2,12 @@
 
 #include "common/numbers.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace s2k2ngt {
 
 // ---- Source rows ----
@@ -19,10 +25,12 @@ std::optional<Refusal> StoreJoints(TableRows rows, CModel& model, Messages& /*sh
 
 namespace {
 
+Point OwnCoordinates(const T_JTCD_D& joint) { return {joint.XorR, joint.Y, joint.Z}; }
+Point StatedGlobals(const T_JTCD_D& joint) { return {joint.GlobalX, joint.GlobalY, joint.GlobalZ}; }
+
 /// The coordinates that the joint's node has in the output.
 Point NodeCoordinates(const T_JTCD_D& joint) {
-  return joint.SpecialJt ? Point{joint.GlobalX, joint.GlobalY, joint.GlobalZ}
-                         : Point{joint.XorR, joint.Y, joint.Z};
+  return joint.SpecialJt ? StatedGlobals(joint) : OwnCoordinates(joint);
 }
 
 }  // namespace
@@ -33,8 +41,7 @@ Point GlobalCoordinates(CModel& model, Text joint) {
     return {};
   }
   const T_JTCD_D& found = row->Value;
-  return found.StatesGlobal ? Point{found.GlobalX, found.GlobalY, found.GlobalZ}
-                            : NodeCoordinates(found);
+  return found.StatesGlobal ? StatedGlobals(found) : NodeCoordinates(found);
 }
 
 // ---- Conversion ----
@@ -94,6 +101,63 @@ bool WriteNodes(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+/// True when the global coordinates were to be written and are not, or are and were not stated.
+bool HasDoubtfulCoordinates(const T_JTCD_D& joint) {
+  return joint.SpecialJt != joint.StatesGlobal && StatedGlobals(joint) != OwnCoordinates(joint);
+}
+
+/// Notes the joints whose numbers are among these more than once.
+void NoteSharedNumbers(Conversion& run, std::vector<std::int32_t> numbers) {
+  std::ranges::sort(numbers);
+  if (std::ranges::adjacent_find(numbers) == numbers.end()) {
+    return;
+  }
+  for (const auto [key, joint] : run.Source.Rows<T_JTCD_D>().Entries()) {
+    const auto [first, last] =
+        std::equal_range(numbers.begin(), numbers.end(), run.Target.NodeNumber(joint.Joint));
+    if (last - first > 1) {
+      run.Accounts.Note<T_JTCD_D>(key, "joint-number-shared");
+    }
+  }
+}
+
+bool HasJoint(CModel& model, Text label) {
+  return model.Rows<T_JTCD_D>().FirstWith<&T_JTCD_D::Joint>(label).has_value();
+}
+
+}  // namespace
+
+void CloseJoints(Conversion& run) {
+  const auto& joints = run.Source.Rows<T_JTCD_D>();
+  std::vector<std::int32_t> numbers;
+  numbers.reserve(joints.Count());
+  for (const auto [key, joint] : joints.Entries()) {
+    numbers.push_back(run.Target.NodeNumber(joint.Joint));
+    if (HasDoubtfulCoordinates(joint)) {
+      run.Accounts.Note<T_JTCD_D>(key, "joint-coordinates-differ");
+    }
+  }
+  NoteSharedNumbers(run, std::move(numbers));
+}
+
+std::optional<Why> LossOfJoint(Conversion& run, Text joint) {
+  if (HasJoint(run.Source, joint)) {
+    return std::nullopt;
+  }
+  // A label such as "12A" is read as the number 12, which may be that of another.
+  const bool isAnother =
+      run.Target.NodeLabelsNumeric && HasJoint(run.Source, std::to_string(ParseInteger(joint)));
+  return isAnother ? Why("joint-taken-from-another") : Why("joint-not-there");
+}
+
+bool IsUserSystem(Text coordinateSystem) {
+  return !coordinateSystem.empty() && coordinateSystem != "GLOBAL" && coordinateSystem != "Local";
 }
 
 }  // namespace s2k2ngt

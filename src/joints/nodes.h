@@ -52,6 +52,7 @@ struct Point {
   double X = 0.0;
   double Y = 0.0;
   double Z = 0.0;
+  bool operator==(const Point&) const = default;
 };
 
 /// The global coordinates of a joint; zeros for a joint that is not there. A row that states no
@@ -80,5 +81,36 @@ bool MapNodes(Conversion& run);
 
 /// Writes *NODE.
 bool WriteNodes(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes joints that have the number of another, and those whose coordinates leave a doubt.
+void CloseJoints(Conversion& run);
+
+/// Why a line of the output does not name the joint that its row names; nothing when it does.
+std::optional<Why> LossOfJoint(Conversion& run, Text joint);
+
+/// Notes the rows of a table whose joint the file does not have.
+template <class Row>
+void NoteUnknownJoints(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
+    if (const std::optional<Why> why = LossOfJoint(run, row.Joint)) {
+      run.Accounts.Note<Row>(key, *why);
+    }
+  }
+}
+
+/// True for a coordinate system of the user's, which no row is turned by.
+bool IsUserSystem(Text coordinateSystem);
+
+/// Notes the rows of a table that stand in a coordinate system of the user's.
+template <class Row>
+void NoteUserSystems(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
+    if (IsUserSystem(row.CoordSys)) {
+      run.Accounts.Note<Row>(key, "coordinate-system-ignored");
+    }
+  }
+}
 
 }  // namespace s2k2ngt

@@ -1,6 +1,7 @@
 #include "joints/supports.h"
 
 #include "joints/local_axes.h"
+#include "joints/nodes.h"
 
 #include <string>
 #include <tuple>
@@ -24,15 +25,29 @@ namespace {
 
 constexpr Text kGlobal = "GLOBAL";
 
+void NoteMatrix(Conversion& run, std::uint32_t key, const T_JTSC_D& row) {
+  if (row.U2 != row.OwnU2 || row.U3 != row.OwnU3 || row.R1 != row.OwnR1 || row.R2 != row.OwnR2 ||
+      row.R3 != row.OwnR3) {
+    run.Accounts.Note<T_JTSC_D>(key, "coupled-spring-diagonal");
+  }
+  if (row.R1R2 != 0.0 || row.R1R3 != 0.0 || row.R2R3 != 0.0) {
+    run.Accounts.Note<T_JTSC_D>(key, "coupled-spring-rotations");
+  }
+}
+
 }  // namespace
 
 bool ConvertUncoupledSprings(Conversion& run) {
   auto& springs = run.Target.Table<T_NGT_NSPR_D>();
   ReserveForRows<T_NGT_NSPR_D, T_JTUC_D>(run);
   for (const auto [key, joint] : run.Source.Rows<T_JTUC_D>().Walk()) {
-    SixComponents k = {joint.U1, joint.U2, joint.U3, joint.R1, joint.R2, joint.R3};
+    const SixComponents stated = {joint.U1, joint.U2, joint.U3, joint.R1, joint.R2, joint.R3};
+    SixComponents k = stated;
     if (joint.CoordSys == kGlobal) {
-      k = TurnToLocal(run.Target, joint.Joint, k);
+      k = TurnToLocal(run.Target, joint.Joint, stated);
+      if (run.Accounts.IsKept() && k != stated) {
+        run.Accounts.Note<T_JTUC_D>(key, "turned-as-vector");
+      }
     }
     springs.Append({joint.Joint, k[0], k[1], k[2], k[3], k[4], k[5]});
   }
@@ -44,8 +59,10 @@ bool ConvertCoupledSprings(Conversion& run) {
   for (const auto [key, joint] : run.Source.Rows<T_JTSC_D>().Walk()) {
     if (joint.CoordSys == kGlobal && HasAxesMatrix(run.Target, joint.Joint)) {
       run.Warnings.bCoupledSpringLost = true;
+      run.Accounts.Note<T_JTSC_D>(key, "coupled-spring-at-turned-joint");
       continue;
     }
+    NoteMatrix(run, key, joint);
     constexpr double kNotRead = 0.0;
     run.Target.Add(
         key, T_NGT_GSPR_D{.NODE = joint.Joint,
@@ -135,6 +152,16 @@ bool WriteGeneralSprings(Conversion& run, LineWriter& out) {
   }
   out.WriteLine("\n");
   return true;
+}
+
+// ---- Account ----
+
+void CloseSupports(Conversion& run) {
+  NoteUnknownJoints<T_JTRA_D>(run);
+  NoteUnknownJoints<T_JTUC_D>(run);
+  NoteUnknownJoints<T_JTSC_D>(run);
+  NoteUserSystems<T_JTUC_D>(run);
+  NoteUserSystems<T_JTSC_D>(run);
 }
 
 }  // namespace s2k2ngt

@@ -50,7 +50,7 @@ inline constexpr RowKey<T_JTUC_D> kRowKeys<T_JTUC_D>[] = {
     {"R2=", &T_JTUC_D::R2},       {"R3=", &T_JTUC_D::R3}};
 
 /// Coupled springs of a joint: the upper triangle of their matrix. The couplings of rotations with
-/// each other are not read.
+/// each other are not converted.
 struct T_JTSC_D {
   static constexpr Text kTable = "T_JTSC_D";
   Text Joint;
@@ -73,20 +73,33 @@ struct T_JTSC_D {
   double U2R3 = 0.0;
   double U3R3 = 0.0;
   double R3 = 0.0;
+  // For the account. A key such as "U2=" is met inside "U1U2=" too; these are met as words alone.
+  double OwnU2 = 0.0;
+  double OwnU3 = 0.0;
+  double OwnR1 = 0.0;
+  double OwnR2 = 0.0;
+  double OwnR3 = 0.0;
+  double R1R2 = 0.0;
+  double R1R3 = 0.0;
+  double R2R3 = 0.0;
 };
 
 template <>
 inline constexpr RowKey<T_JTSC_D> kRowKeys<T_JTSC_D>[] = {
-    {"Joint=", &T_JTSC_D::Joint}, {"CoordSys=", &T_JTSC_D::CoordSys},
-    {"U1=", &T_JTSC_D::U1},       {"U1U2=", &T_JTSC_D::U1U2},
-    {"U2=", &T_JTSC_D::U2},       {"U1U3=", &T_JTSC_D::U1U3},
-    {"U2U3=", &T_JTSC_D::U2U3},   {"U3=", &T_JTSC_D::U3},
-    {"U1R1=", &T_JTSC_D::U1R1},   {"U2R1=", &T_JTSC_D::U2R1},
-    {"U3R1=", &T_JTSC_D::U3R1},   {"R1=", &T_JTSC_D::R1},
-    {"U1R2=", &T_JTSC_D::U1R2},   {"U2R2=", &T_JTSC_D::U2R2},
-    {"U3R2=", &T_JTSC_D::U3R2},   {"R2=", &T_JTSC_D::R2},
-    {"U1R3=", &T_JTSC_D::U1R3},   {"U2R3=", &T_JTSC_D::U2R3},
-    {"U3R3=", &T_JTSC_D::U3R3},   {"R3=", &T_JTSC_D::R3}};
+    {"Joint=", &T_JTSC_D::Joint},    {"CoordSys=", &T_JTSC_D::CoordSys},
+    {"U1=", &T_JTSC_D::U1},          {"U1U2=", &T_JTSC_D::U1U2},
+    {"U2=", &T_JTSC_D::U2},          {"U1U3=", &T_JTSC_D::U1U3},
+    {"U2U3=", &T_JTSC_D::U2U3},      {"U3=", &T_JTSC_D::U3},
+    {"U1R1=", &T_JTSC_D::U1R1},      {"U2R1=", &T_JTSC_D::U2R1},
+    {"U3R1=", &T_JTSC_D::U3R1},      {"R1=", &T_JTSC_D::R1},
+    {"U1R2=", &T_JTSC_D::U1R2},      {"U2R2=", &T_JTSC_D::U2R2},
+    {"U3R2=", &T_JTSC_D::U3R2},      {"R2=", &T_JTSC_D::R2},
+    {"U1R3=", &T_JTSC_D::U1R3},      {"U2R3=", &T_JTSC_D::U2R3},
+    {"U3R3=", &T_JTSC_D::U3R3},      {"R3=", &T_JTSC_D::R3},
+    {" U2=", &T_JTSC_D::OwnU2},      {" U3=", &T_JTSC_D::OwnU3},
+    {" R1=", &T_JTSC_D::OwnR1},      {" R2=", &T_JTSC_D::OwnR2},
+    {" R3=", &T_JTSC_D::OwnR3},      Noted{"R1R2=", &T_JTSC_D::R1R2},
+    Noted{"R1R3=", &T_JTSC_D::R1R3}, Noted{"R2R3=", &T_JTSC_D::R2R3}};
 
 // ---- Target records ----
 
@@ -136,5 +149,10 @@ bool WritePointSprings(Conversion& run, LineWriter& out);
 
 /// Writes *GSPRING and *GSPRTYPE.
 bool WriteGeneralSprings(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes restraints and springs of joints that are not there, and of systems that are not known.
+void CloseSupports(Conversion& run);
 
 }  // namespace s2k2ngt

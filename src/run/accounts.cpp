@@ -26,6 +26,11 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/solids.h"
+#include "joints/constraints.h"
+#include "joints/local_axes.h"
+#include "joints/masses.h"
+#include "joints/nodes.h"
+#include "joints/supports.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
@@ -65,6 +70,11 @@ constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
     CloseModal,         CloseBuckling,       CloseSpectrum,
     CloseTimeFunctions, CloseHistoryDamping, CloseHistoryLoads,
     CloseTimeHistories, CloseCombinations,
+    CloseJoints,
+    CloseSupports,
+    CloseLocalAxes,
+    CloseMasses,
+    CloseConstraints,
 });
 
 }  // namespace
