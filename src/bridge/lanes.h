@@ -40,4 +40,9 @@ bool ConvertLanes(Conversion& run);
 /// Writes *LINELANE.
 bool WriteLanes(Conversion& run, LineWriter& out);
 
+// ---- Account ----
+
+/// Notes lanes in parts or without a name, and frames that are not there.
+void CloseLanes(Conversion& run);
+
 }  // namespace s2k2ngt

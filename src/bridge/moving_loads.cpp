@@ -1,8 +1,12 @@
 #include "bridge/moving_loads.h"
 
+#include "bridge/lanes.h"
+#include "bridge/parts.h"
 #include "bridge/vehicles.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <span>
 
 namespace s2k2ngt {
 
@@ -10,12 +14,16 @@ namespace s2k2ngt {
 
 namespace {
 
+constexpr std::int32_t kMostLanes = 4;
+
+bool IsNothing(double scale) { return scale < kTolerance; }
+
 /// The reduction of a case for a number of loaded lanes; 1 where there is none.
 double LaneScale(CModel& source, Text name, std::int32_t lanes) {
   const auto reduction =
       source.Rows<T_MVL3_D>().FirstWith<&T_MVL3_D::LanesOfCase>(NumberInCase{name, lanes});
   const double scale = reduction ? reduction->Value.ScaleFactor : 0.0;
-  return scale < kTolerance ? 1.0 : scale;
+  return IsNothing(scale) ? 1.0 : scale;
 }
 
 }  // namespace
@@ -24,6 +32,7 @@ bool ConvertMovingLoads(Conversion& run) {
   const auto& classes = run.Target.Table<T_NGT_VCLS_D>();
   for (const auto [key, assignment] : run.Source.Rows<T_MVL1_D>().Walk()) {
     if (!classes.FirstWith<&T_NGT_VCLS_D::NAME>(assignment.Case)) {
+      run.Accounts.Note<T_MVL1_D>(key, "moving-case-without-class");
       continue;
     }
     T_NGT_MVLC_D load{.NAME = assignment.Case,
@@ -38,6 +47,7 @@ bool ConvertMovingLoads(Conversion& run) {
                       .Assignment = assignment.Assignment()};
     if (load.iMAX == 0) {
       run.Warnings.bMaxLoadedChanged = true;
+      run.Accounts.Note<T_MVL1_D>(key, "max-loaded-zero");
       load.iMAX = 1;
     }
     run.Target.Add(key, load);
@@ -74,8 +84,7 @@ void ConvertMovingControl(Conversion& run) {
   SetWanted(settings->Reactions, control.Reactions);
   SetWanted(settings->Displs, control.Displacements);
   SetWanted(settings->Frames, control.Frames);
-  control.bWrite =
-      !settings->Reactions.empty() && !settings->Displs.empty() && !settings->Frames.empty();
+  control.bWrite = settings->IsWhole();
 }
 
 // ---- Output ----
@@ -136,6 +145,88 @@ bool WriteMovingLoads(Conversion& run, LineWriter& out) {
     WriteMovingControl(out, control);
   }
   return true;
+}
+
+// ---- Account ----
+
+namespace {
+
+using MovingLoadCases = CKeyedTable<T_NGT_MVLC_D>;
+
+/// True when one of the assignments with these keys, ascending, is met by the writer.
+bool IsOneWritten(const MovingLoadCases& loads, std::span<const std::uint32_t> keys) {
+  return !keys.empty() && keys.front() <= loads.Count();
+}
+
+void CloseAssignments(Conversion& run, const MovingLoadCases& loads) {
+  const auto& classes = run.Target.Table<T_NGT_VCLS_D>();
+  Parts cases;
+  for (const auto [key, row] : run.Source.Rows<T_MVL1_D>().Entries()) {
+    const T_NGT_MVLC_D* const load = loads.Find(key);
+    if (load == nullptr) {
+      continue;
+    }
+    if (key > loads.Count()) {
+      run.Accounts.Note<T_MVL1_D>(key, "behind-left-out-cases");
+      continue;
+    }
+    if (cases.IsFurther(load->NAME)) {
+      run.Accounts.Note<T_MVL1_D>(key, "written-in-parts");
+    }
+    if (!classes.FirstWith<&T_NGT_VCLS_D::NAME>(load->VCLASS)) {
+      run.Accounts.Note<T_MVL1_D>(key, "vehicle-class-not-written");
+    }
+  }
+}
+
+void CloseLanesLoaded(Conversion& run, const MovingLoadCases& loads) {
+  const auto& lanes = run.Source.Rows<T_BLLN_D>();
+  for (const auto [key, row] : run.Source.Rows<T_MVL2_D>().Entries()) {
+    if (!IsOneWritten(loads, loads.KeysWith<&T_NGT_MVLC_D::Assignment>(row.Assignment()))) {
+      run.Accounts.Note<T_MVL2_D>(key, "moving-case-not-written");
+    } else if (!lanes.FirstWith<&T_BLLN_D::LaneName>(row.Lane)) {
+      run.Accounts.Note<T_MVL2_D>(key, "lane-unknown");
+    }
+  }
+}
+
+void CloseReductions(Conversion& run, const MovingLoadCases& loads) {
+  const auto& rows = run.Source.Rows<T_MVL3_D>();
+  for (const auto [key, row] : rows.Entries()) {
+    if (!IsOneWritten(loads, loads.KeysWith<&T_NGT_MVLC_D::NAME>(row.Case))) {
+      run.Accounts.Note<T_MVL3_D>(key, "moving-case-not-written");
+    } else if (row.NumberLanes < 1 || row.NumberLanes > kMostLanes) {
+      run.Accounts.Note<T_MVL3_D>(key, "factor-beyond-four-lanes");
+    } else if (rows.FirstWith<&T_MVL3_D::LanesOfCase>(row.LanesOfCase())->Key != key) {
+      run.Accounts.Note<T_MVL3_D>(key, "row-of-same-name");
+    } else if (IsNothing(row.ScaleFactor)) {
+      run.Accounts.Note<T_MVL3_D>(key, "factor-of-nothing");
+    }
+  }
+}
+
+void CloseResponse(Conversion& run, const MovingLoadCases& loads) {
+  for (const auto [key, settings] : run.Source.Rows<T_BLBR_D>().Entries()) {
+    if (key > 1) {
+      run.Accounts.Note<T_BLBR_D>(key, "first-row-counts");
+    } else if (!settings.IsWhole()) {
+      run.Accounts.Note<T_BLBR_D>(key, "bridge-response-incomplete");
+    } else if (!run.Target.Control<T_NGT_MVCT_D>().bWrite) {
+      run.Accounts.Note<T_BLBR_D>(key, "analysis-case-missing");
+    } else if (loads.Empty()) {
+      run.Accounts.Note<T_BLBR_D>(key, "moving-case-not-written");
+    }
+  }
+}
+
+}  // namespace
+
+void CloseMovingLoads(Conversion& run) {
+  const auto& loads = run.Target.Table<T_NGT_MVLC_D>();
+  CloseAssignments(run, loads);
+  CloseLanesLoaded(run, loads);
+  CloseReductions(run, loads);
+  CloseResponse(run, loads);
 }
 
 }  // namespace s2k2ngt

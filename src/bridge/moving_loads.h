@@ -83,6 +83,9 @@ struct T_BLBR_D {
   Text Frames;
   Text CalcMethod;
   bool Correspond = false;
+
+  /// Whether it says of each part what is wanted; else nothing is written.
+  bool IsWhole() const { return !Reactions.empty() && !Displs.empty() && !Frames.empty(); }
 };
 
 template <>
@@ -139,5 +142,10 @@ void ConvertMovingControl(Conversion& run);
 
 /// Writes *MVLDCASE, and *MOVE-CTRL behind it.
 bool WriteMovingLoads(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes what is not in the output, and what names something that is not there.
+void CloseMovingLoads(Conversion& run);
 
 }  // namespace s2k2ngt

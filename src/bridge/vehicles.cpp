@@ -1,5 +1,6 @@
 #include "bridge/vehicles.h"
 
+#include "common/numbers.h"
 #include "target/wrapped_list.h"
 
 #include <algorithm>
@@ -40,14 +41,13 @@ TargetVehicle VehicleByType(Text type) {
   return {std::string(type), type != "RL" && type != "HL-93S"};
 }
 
-/// Meant so: an "n" in front is no place for the scale factor, and one in "UICn" is.
 TargetVehicle VehicleOf(const T_BLSV_D& vehicle) {
-  const std::size_t place = vehicle.Type.find('n');
-  if (place == 0 || place == Text::npos) {
+  const std::optional<std::size_t> place = vehicle.PlaceOfScale();
+  if (!place) {
     return VehicleByType(vehicle.Type);
   }
-  return VehicleByScale(vehicle.Type.substr(0, place), vehicle.ScaleFactor,
-                        vehicle.Type.substr(place + 1));
+  return VehicleByScale(vehicle.Type.substr(0, *place), TruncateToInteger(vehicle.ScaleFactor),
+                        vehicle.Type.substr(*place + 1));
 }
 
 void NoteLost(const std::string& name, std::string& names) {
@@ -64,6 +64,7 @@ bool ConvertStandardVehicles(Conversion& run) {
     const TargetVehicle target = VehicleOf(vehicle);
     if (!target.IsKnown) {
       NoteLost(target.Name, run.Target.Control<LostVehicles>().Names);
+      run.Accounts.Note<T_BLSV_D>(key, "vehicle-not-of-host");
       continue;
     }
     run.Target.Table<T_NGT_VHCL_D>().Append({.NAME = run.Target.Texts().Keep(target.Name),
@@ -88,7 +89,7 @@ std::vector<T_BLGV2_D> IntermediateAxles(CModel& source, Text name) {
 }
 
 T_NGT_VHCL_D GeneralVehicle(const T_BLGV1_D& vehicle, const std::vector<T_BLGV2_D>& axles) {
-  const bool isTrain = vehicle.TrailUnif >= kTolerance;
+  const bool isTrain = vehicle.IsTrain();
   T_NGT_VHCL_D target{.NAME = vehicle.VehName,
                       .VehName = vehicle.VehName,
                       .iKind = VehicleKind::General,

@@ -5,7 +5,9 @@
 #include "source/row_grammar.h"
 #include "target/conversion.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,14 +21,22 @@ struct T_BLSV_D {
   static constexpr Text kTable = "T_BLSV_D";
   Text VehName;
   Text Type;
-  std::int32_t ScaleFactor = 0;
+  double ScaleFactor = 0.0;
+  double DynAllow = 0.0;  // for the account
+
+  /// Where the scale factor stands in the type; nothing where it has no place. Meant so: an "n" in
+  /// front is no place for it, and one in "UICn" is.
+  std::optional<std::size_t> PlaceOfScale() const {
+    const std::size_t place = Type.find('n');
+    return place == 0 || place == Text::npos ? std::nullopt : std::optional(place);
+  }
 };
 
 template <>
 inline constexpr RowKey<T_BLSV_D> kRowKeys<T_BLSV_D>[] = {{"VehName=", &T_BLSV_D::VehName},
                                                           {"Type=", &T_BLSV_D::Type},
                                                           {"ScaleFactor=", &T_BLSV_D::ScaleFactor},
-                                                          Unread{"DynAllow="}};
+                                                          Noted{"DynAllow=", &T_BLSV_D::DynAllow}};
 
 /// A general vehicle: its uniform loads and the axles at its ends.
 struct T_BLGV1_D {
@@ -37,6 +47,9 @@ struct T_BLGV1_D {
   double FirstAxle = 0.0;
   double AxleMom = 0.0;    // floating axle for moments
   double AxleOther = 0.0;  // and for all else
+
+  /// Whether a uniform load is behind it.
+  bool IsTrain() const { return TrailUnif >= kTolerance; }
 };
 
 // "SupprotMom=" is how the source program spells its key.
@@ -75,11 +88,14 @@ struct T_BLVC_D {
   static constexpr Text kTable = "T_BLVC_D";
   Text VehClass;
   Text VehName;
+  double ScaleFactor = 1.0;  // for the account
 };
 
 template <>
 inline constexpr RowKey<T_BLVC_D> kRowKeys<T_BLVC_D>[] = {
-    {"VehClass=", &T_BLVC_D::VehClass}, {"VehName=", &T_BLVC_D::VehName}, Unread{"ScaleFactor="}};
+    {"VehClass=", &T_BLVC_D::VehClass},
+    {"VehName=", &T_BLVC_D::VehName},
+    Noted{"ScaleFactor=", &T_BLVC_D::ScaleFactor}};
 
 // ---- Target records ----
 
@@ -134,5 +150,11 @@ bool WriteVehicles(Conversion& run, LineWriter& out);
 
 /// Writes *VCLASS.
 bool WriteVehicleClasses(Conversion& run, LineWriter& out);
+
+// ---- Account ----
+
+/// Notes what vehicles and their classes lose, but for standard vehicles that the target does not
+/// have.
+void CloseVehicles(Conversion& run);
 
 }  // namespace s2k2ngt

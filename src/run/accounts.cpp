@@ -26,6 +26,9 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/solids.h"
+#include "bridge/lanes.h"
+#include "bridge/moving_loads.h"
+#include "bridge/vehicles.h"
 #include "joints/constraints.h"
 #include "joints/local_axes.h"
 #include "joints/masses.h"
@@ -75,6 +78,9 @@ constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
     CloseLocalAxes,
     CloseMasses,
     CloseConstraints,
+    CloseLanes,
+    CloseVehicles,
+    CloseMovingLoads,
 });
 
 }  // namespace
