@@ -425,9 +425,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Changed("element-number-shared",
                      "An area has the same label: two elements are written under one number.",
                      "Give the solids labels of their own in the source."),
-    reasons::Dropped("row-of-same-name",
-                     "Another row of the same name is taken, and of each name one row alone.",
-                     "Look whether the rows say the same."),
     reasons::Redundant("property-not-used", "Nothing that is written has this section or property.",
                        "There is nothing to do for the analysis."),
     reasons::Dropped("spring-on-edge",
@@ -567,10 +564,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "soil-type-unknown",
         "Its soil type is not one of two letters: the first two are taken, or Sa if there is none.",
         "Correct the soil profile in the host."),
-    reasons::Changed("joint-not-there",
-                     "It names a joint that the file does not have: its line in the output names a "
-                     "node that is not there.",
-                     "Look for the joint in the source model."),
     reasons::Changed(
         "element-not-there",
         "It names an element that the file does not have: its line in the output names "
@@ -937,13 +930,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
 
     // Bridges
 
-    reasons::Changed(
-        "element-not-there",
-        "It names an element that the file does not have: its line in the output names "
-        "one that is not there.",
-        "Look for the element in the source model."),
-    reasons::Dropped("analysis-case-missing", "No analysis case of its kind asks for it.",
-                     "Add an analysis case that does, or take it out of the source model."),
     reasons::Changed("written-in-parts",
                      "Rows of other names come between those of its name: it is written in several "
                      "parts under one name. Vehicle classes do not go by the order of the rows.",

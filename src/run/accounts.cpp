@@ -10,12 +10,20 @@
 #include "analysis/spectrum.h"
 #include "analysis/structure.h"
 #include "analysis/time_functions.h"
+#include "bridge/lanes.h"
+#include "bridge/moving_loads.h"
+#include "bridge/vehicles.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
 #include "frames/initial_forces.h"
 #include "frames/materials.h"
 #include "frames/modifiers.h"
 #include "frames/sections.h"
+#include "joints/constraints.h"
+#include "joints/local_axes.h"
+#include "joints/masses.h"
+#include "joints/nodes.h"
+#include "joints/supports.h"
 #include "loads/area_loads.h"
 #include "loads/frame_loads.h"
 #include "loads/joint_loads.h"
@@ -26,14 +34,6 @@
 #include "plates/areas.h"
 #include "plates/links.h"
 #include "plates/solids.h"
-#include "bridge/lanes.h"
-#include "bridge/moving_loads.h"
-#include "bridge/vehicles.h"
-#include "joints/constraints.h"
-#include "joints/local_axes.h"
-#include "joints/masses.h"
-#include "joints/nodes.h"
-#include "joints/supports.h"
 #include "run/row_parsers.h"
 
 #include <algorithm>
@@ -64,23 +64,15 @@ bool HasNoModelData(Text title) {
 
 /// The closing notes of the rooms, in the order of the source's topics.
 constexpr std::array kClosings = std::to_array<void (*)(Conversion& run)>({
-    CloseFrames,        CloseFrameModifiers, CloseEndConditions,
-    CloseInitialForces, CloseMaterials,      CloseSections,
-    CloseAreas,         CloseSolids,         CloseLinks,
-    CloseLoadCases,     CloseJointLoads,     CloseJointPatterns,
-    CloseFrameLoads,    CloseAreaLoads,      CloseTemperatureLoads,
-    CloseAutoLoads,     CloseStructure,      CloseAnalysisCases,
-    CloseModal,         CloseBuckling,       CloseSpectrum,
-    CloseTimeFunctions, CloseHistoryDamping, CloseHistoryLoads,
-    CloseTimeHistories, CloseCombinations,
-    CloseJoints,
-    CloseSupports,
-    CloseLocalAxes,
-    CloseMasses,
-    CloseConstraints,
-    CloseLanes,
-    CloseVehicles,
-    CloseMovingLoads,
+    CloseJoints,        CloseSupports,      CloseLocalAxes,      CloseMasses,
+    CloseConstraints,   CloseFrames,        CloseFrameModifiers, CloseEndConditions,
+    CloseInitialForces, CloseMaterials,     CloseSections,       CloseAreas,
+    CloseSolids,        CloseLinks,         CloseLoadCases,      CloseJointLoads,
+    CloseJointPatterns, CloseFrameLoads,    CloseAreaLoads,      CloseTemperatureLoads,
+    CloseAutoLoads,     CloseStructure,     CloseAnalysisCases,  CloseModal,
+    CloseBuckling,      CloseSpectrum,      CloseTimeFunctions,  CloseHistoryDamping,
+    CloseHistoryLoads,  CloseTimeHistories, CloseCombinations,   CloseLanes,
+    CloseVehicles,      CloseMovingLoads,
 });
 
 }  // namespace

@@ -62,9 +62,14 @@ constexpr bool HasLabel() {
 template <class Record>
 std::string LabelOf(CModel& model, std::uint32_t key) {
   const Record* const row = model.Rows<Record>().Find(key);
-  const RowKey<Record>& first = *std::begin(kRowKeys<Record>);
-  return row == nullptr ? std::string()
-                        : std::string(TrimLeft(first.Name())).append(first.TextOf(*row));
+  if (row != nullptr) {
+    for (const RowKey<Record>& known : kRowKeys<Record>) {
+      if (known.IsText() && !known.TextOf(*row).empty()) {
+        return std::string(TrimLeft(known.Name())).append(known.TextOf(*row));
+      }
+    }
+  }
+  return {};
 }
 
 template <class Record>
