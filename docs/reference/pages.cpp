@@ -95,7 +95,7 @@ fit nothing are ignored.
 - **ignored**: passed over without a word.
 - **never met**: its words hold those of a table further up, which is taken instead.
 
-A key that is used need not reach the output in every model; README.md tells what the rules drop.
+A key that is used need not reach the output in every model; guide.md tells what the rules drop.
 
 | Title begins | and holds | Becomes | Keys used | Keys not used |
 |---|---|---|---|---|
