@@ -1,5 +1,6 @@
 #include "command.h"
 
+#include "common/files.h"
 #include "conversion_of_file.h"
 #include "inputs.h"
 #include "platform/terminal/interrupt.h"
@@ -11,7 +12,9 @@
 
 #include <csignal>
 #include <cstddef>
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -37,6 +40,11 @@ int ConvertFiles(const CommandOptions& options) {
   const s2k2ngt::InterruptGuard hangUp(SIGHUP);
 #endif
   const std::vector<FileToConvert> files = ListFiles(options);
+  if (!options.OutputDirectory.empty() && !options.Check) {
+    // A report may lie in it. What hinders its making is told with each file.
+    std::error_code error;
+    std::filesystem::create_directories(s2k2ngt::NativePath(options.OutputDirectory), error);
+  }
   if (const auto reason = WhyNoReport(files, options)) {
     PrintLine(std::cerr, *reason);
     return kWrongUsage;
@@ -51,7 +59,7 @@ int ConvertFiles(const CommandOptions& options) {
   const std::vector<FileResult> results =
       options.Jobs > 0 ? ConvertInWorkers(files, options) : ConvertOneByOne(files, options);
   const int status = StatusOf(results, options);
-  if (files.size() > 1 && (!options.Quiet || status == kOneFailed)) {
+  if (files.size() > 1 && (!options.Quiet || status == kOneFailed || status == kOneLost)) {
     PrintSummary(std::cerr, files, results, options);
   }
   return WriteReports(results, options) ? status : kOneFailed;

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <new>
 #include <ostream>
 #include <system_error>
 #include <utility>
@@ -147,7 +148,14 @@ void Run(const FileToConvert& file, const CommandOptions& options, std::ostream&
     outcome.Unfinished = file.Output;
   }
   if (options.WantsAccount()) {
-    TakeAccount(converter, options, outcome);
+    try {
+      TakeAccount(converter, options, outcome);
+    } catch (const std::bad_alloc&) {
+      // What was written stays as it is told; only the account is missing.
+      outcome.Part = {};
+      outcome.Account = {"there is not enough memory for the account of its rows"};
+      outcome.HasLoss = true;
+    }
   }
 }
 

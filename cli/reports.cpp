@@ -4,6 +4,7 @@
 #include "files_of_call.h"
 #include "page.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -19,14 +20,51 @@ namespace {
 
 bool IsPage(const std::string& name) { return name.ends_with(".html"); }
 
-bool Write(const std::string& name, const std::string& bytes) {
-  std::ofstream file(s2k2ngt::NativePath(name), std::ios::binary);
+/// Where a report is written until it is whole, so that an earlier one stays until then.
+std::filesystem::path UnfinishedName(const std::string& name) {
+  return s2k2ngt::NativePath(name + ".part");
+}
+
+std::string SystemError() { return std::strerror(errno); }
+
+/// Writes a report in the place of one that is there; else gives the reason.
+std::optional<std::string> WhyNotReplaced(const std::string& name, const std::string& bytes) {
+  const std::filesystem::path unfinished = UnfinishedName(name);
+  std::ofstream file(unfinished, std::ios::binary);
   file << bytes;
   file.close();
+  std::error_code error;
   if (!file) {
-    PrintLine(std::cerr, name + ": cannot write the report: " + std::strerror(errno));
+    const std::string reason = SystemError();
+    std::filesystem::remove(unfinished, error);
+    return reason;
   }
-  return static_cast<bool>(file);
+  std::filesystem::rename(unfinished, s2k2ngt::NativePath(name), error);
+  if (error) {
+    std::error_code unknown;
+    std::filesystem::remove(unfinished, unknown);
+    return error.message();
+  }
+  return std::nullopt;
+}
+
+/// True when the path is another name of the file.
+bool IsSameFile(const std::string& path, const std::string& file) {
+  std::error_code noSuchFile;
+  return std::filesystem::equivalent(s2k2ngt::NativePath(path), s2k2ngt::NativePath(file),
+                                     noSuchFile);
+}
+
+/// Why a report will not be written, of what can be known before.
+std::optional<std::string> WhyNotWritable(const std::string& report) {
+  std::error_code unknown;
+  if (std::filesystem::is_directory(s2k2ngt::NativePath(report), unknown)) {
+    return "the report would replace a folder";
+  }
+  const bool isWritable = std::ofstream(UnfinishedName(report)).is_open();
+  const std::string reason = SystemError();
+  std::filesystem::remove(UnfinishedName(report), unknown);
+  return isWritable ? std::nullopt : std::optional("cannot write the report: " + reason);
 }
 
 }  // namespace
@@ -44,13 +82,13 @@ std::optional<std::string> WhyNoReport(const std::vector<FileToConvert>& files,
   }
   FilesOfCall known(namesOfCall);
   for (const std::string& report : options.Reports) {
-    if (known.WhyNotWritten({}, report)) {
+    if (known.WhyNotWritten({}, report) ||
+        std::ranges::any_of(namesOfCall,
+                            [&](const std::string& name) { return IsSameFile(report, name); })) {
       return report + ": the report would replace another file of this call";
     }
-    const std::filesystem::path folder = s2k2ngt::NativePath(report).parent_path();
-    std::error_code unknown;
-    if (!folder.empty() && !std::filesystem::is_directory(folder, unknown)) {
-      return report + ": the folder of the report is not there";
+    if (const std::optional<std::string> reason = WhyNotWritable(report)) {
+      return report + ": " + *reason;
     }
   }
   return std::nullopt;
@@ -70,7 +108,10 @@ bool WriteReports(const std::vector<FileResult>& results, const CommandOptions& 
   bool areWritten = true;
   for (const std::string& name : options.Reports) {
     const std::string text = IsPage(name) ? PageOf(report, drawings) : TextOf(report) + '\n';
-    areWritten = Write(name, text) && areWritten;
+    if (const std::optional<std::string> reason = WhyNotReplaced(name, text)) {
+      PrintLine(std::cerr, name + ": cannot write the report: " + *reason);
+      areWritten = false;
+    }
   }
   return areWritten;
 }

@@ -12,7 +12,7 @@
 bool IsReportName(const std::string& name);
 
 /// Why a report cannot be written, in words for the user: it would replace a file of the call, or
-/// its folder is not there. Asked before anything is converted.
+/// its folder is not there or not to be written to. Asked before anything is converted.
 std::optional<std::string> WhyNoReport(const std::vector<FileToConvert>& files,
                                        const CommandOptions& options);
 

@@ -12,10 +12,12 @@ std::size_t Count(const std::vector<FileResult>& results, int result) {
   return static_cast<std::size_t>(std::ranges::count(results, result, &FileResult::Result));
 }
 
+bool HasLosses(const FileResult& result) {
+  return result.Result == s2k2ngt::kConverted && result.HasLoss;
+}
+
 std::size_t CountLosses(const std::vector<FileResult>& results) {
-  return static_cast<std::size_t>(std::ranges::count_if(results, [](const FileResult& result) {
-    return result.Result == s2k2ngt::kConverted && result.HasLoss;
-  }));
+  return static_cast<std::size_t>(std::ranges::count_if(results, HasLosses));
 }
 
 }  // namespace
@@ -50,6 +52,14 @@ void PrintSummary(std::ostream& err, const std::vector<FileToConvert>& files,
   for (std::size_t index = 0; index < files.size(); ++index) {
     if (results[index].Result == s2k2ngt::kFailed) {
       PrintLine(err, "  " + files[index].Input);
+    }
+  }
+  if (CountLosses(results) > 0) {
+    PrintLine(err, "with losses:");
+    for (std::size_t index = 0; index < files.size(); ++index) {
+      if (HasLosses(results[index])) {
+        PrintLine(err, "  " + files[index].Input);
+      }
     }
   }
 }

@@ -114,16 +114,14 @@ std::string FilePart::Account() const {
   const ordered_json& rows = m_File["rows"];
   const auto read = rows["read"].get<std::uint64_t>();
   const std::string allRows = NumberOf(read, "row", "rows", "read", OfFile(m_Number));
+  if (verdict == "failed" || verdict == "stopped") {
+    const std::string how =
+        verdict == "failed" ? "The conversion failed" : "The conversion was stopped";
+    return read == 0 ? how + " before a row was read."
+                     : how + ", and what is told here of " + allRows + " is as far as it had come.";
+  }
   if (read == 0) {
     return "The file has " + allRows + " in any table: there was nothing to convert.";
-  }
-  if (verdict == "failed") {
-    return "The conversion failed, and what is told here of " + allRows +
-           " is as far as it had come.";
-  }
-  if (verdict == "stopped") {
-    return "The conversion was stopped, and what is told here of " + allRows +
-           " is as far as it had come.";
   }
   if (rows["converted"] == rows["read"]) {
     return "Of " + allRows + " read, all went over as they stand.";
@@ -284,7 +282,7 @@ std::string Overview(const ordered_json& files) {
 std::string TitleOf(const ordered_json& files) {
   return files.size() == 1
              ? Escaped(NameOf(TextOf(files[0], "input"))) + ": " + VerdictOf(files[0]).Words
-             : Counted(files.size(), "file", "files") + " converted";
+             : "Report of " + Counted(files.size(), "file", "files");
 }
 
 }  // namespace

@@ -264,6 +264,9 @@ void Ledger::Tell(const Block& block, std::span<const FurtherNote> further, bool
         account.Losses.push_back({tableNumber, row + 1, line, label, &kReasons[reason]});
       };
       tell(why);
+      if (RankOf(fate) < RankOf(fateOfRest)) {
+        tell(ofRest);
+      }
       for (; next != further.end() && next->Row == row; ++next) {
         tell(next->Why);
       }

@@ -44,7 +44,7 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::NotLookedAt("table-not-read", "Tables of this kind are not read.",
                          "Enter what it states in the host."),
     {"table-without-model-data", RowFate::NotLookedAt, false,
-     "The table holds no part of the structural model: settings, groups, grids, or design.",
+     "The table holds settings, groups, grids, design data, or what other tables say as well.",
      "There is nothing to do for the analysis."},
     reasons::Refused("table-refused", "The host has no like of this table.",
                      "Read the message that was shown for it."),
@@ -54,6 +54,10 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Mend the row: the failure says what is wrong with it."),
     reasons::Dropped("first-row-counts", "Of this table the first row alone is read.",
                      "Look whether the rows below it say anything else."),
+    reasons::Redundant("coordinate-system-below-first",
+                       "Coordinate systems below the first are not read. What stands in one of "
+                       "them is told with its own rows.",
+                       "Look at the rows that name the system."),
     reasons::Dropped("overwritten-by-later-block",
                      "A later block of the same table has written over the row.",
                      "Give each table one block."),
@@ -67,8 +71,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Dropped("row-without-end", "The row ends in a mark by which it would go on.",
                      "Take the \" _\" off its end."),
 
-    reasons::Dropped("joint-unknown", "It names a joint that the file does not have.",
-                     "Look for the joint in the source model."),
     reasons::Dropped("frame-unknown", "It names a frame that the file does not have.",
                      "Look for the frame in the source model."),
     reasons::Dropped("area-unknown", "It names an area that the file does not have.",
@@ -83,6 +85,42 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Changed("element-taken-from-another",
                      "It names an element that the file does not have: another number is written.",
                      "Look for the element in the source model."),
+    reasons::Changed("joint-not-there",
+                     "It names a joint that the file does not have: its line in the output names a "
+                     "node that is not there.",
+                     "Look for the joint in the source model."),
+    reasons::Changed(
+        "element-not-there",
+        "It names an element that the file does not have: its line in the output names "
+        "one that is not there.",
+        "Look for the element in the source model."),
+    reasons::Changed("end-or-corner-unknown",
+                     "It names no joint, or one that the file does not have, at an end or a "
+                     "corner: the element has no node there.",
+                     "Look for the joint in the source model."),
+    reasons::Changed("material-of-assignment",
+                     "The material that the assignment states is not taken over: the element has "
+                     "that of its section or property.",
+                     "Give the element its material in the host."),
+    reasons::Changed("material-angle", "The angle of the material is not taken over.",
+                     "Turn the axes of the elements in the host if the material is not isotropic."),
+    reasons::Changed("mass-unlike-weight",
+                     "Of mass and weight it has one alone, and the host takes the mass from the "
+                     "weight.",
+                     "Set the weight or the mass of the material in the host."),
+    reasons::Changed("area-section-modifiers",
+                     "The host has no modifiers of area sections: they are left out.",
+                     "Change the thickness or the material of the elements in the host."),
+    reasons::Changed("spectrum-direction-combination",
+                     "The combination of directions is not taken over: each is a case of its own.",
+                     "Combine the directions in the host."),
+    reasons::Changed("spectrum-damping-of-other-kind",
+                     "The damping is not constant: the constant that the row states is written, or "
+                     "0.",
+                     "Set the damping in *SPEC-CTRL."),
+    reasons::Changed("geometric-nonlinearity",
+                     "P-Delta and large displacements of the case are not taken over.",
+                     "Set the geometric nonlinearity of the case in the host."),
     reasons::Dropped("load-case-not-static", "No linear static analysis case names its load case.",
                      "Add a linear static analysis case that applies the load case."),
     reasons::Changed("coordinate-system-ignored",
@@ -92,10 +130,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
 
     // Joints
 
-    reasons::Changed("joint-not-there",
-                     "It names a joint that the file does not have: its line in the output names a "
-                     "node that is not there.",
-                     "Look for the joint in the source model."),
     reasons::Dropped("row-of-same-name",
                      "Another row of the same name is taken, and of each name one row alone.",
                      "Look whether the rows say the same."),
@@ -202,13 +236,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
 
     // Frames
 
-    reasons::Changed("frame-joint-unknown",
-                     "It names a joint that the file does not have: the element is written with a "
-                     "node that is not there.",
-                     "Look for the joint in the source model."),
-    reasons::Changed("frame-not-there",
-                     "It names a frame that the file does not have, and is written all the same.",
-                     "Look for the frame in the source model."),
     reasons::Dropped("frame-stated-twice", "Another row of the same frame is taken.",
                      "Give the frame one row of the table."),
     reasons::Redundant("switched-off", "Another row of the frame says that it is not in use.",
@@ -369,9 +396,10 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Changed("nonprismatic-modifiers",
                      "Modifiers of nonprismatic sections are not taken over.",
                      "Enter the scale factors of the section in the host."),
-    reasons::Changed("section-modifiers-missing",
-                     "No modifier is stated or all are 0: the section is scaled to nothing.",
-                     "Take the scale factors off the section in the host."),
+    reasons::Changed(
+        "section-modifiers-missing",
+        "A modifier that is not stated is written as 0, which scales the section to nothing.",
+        "Take the scale factors off the section in the host."),
     reasons::Changed("section-mass-modifier",
                      "The host does not scale the mass of a section: its modifier is left out.",
                      "Correct the masses in the host."),
@@ -418,10 +446,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "area-of-three-joints",
         "It has three joints and no repeated fourth: the third place of the element is empty.",
         "Put the third node of the element into its third place in the host."),
-    reasons::Changed("end-or-corner-unknown",
-                     "It names no joint, or one that the file does not have, at an end or a "
-                     "corner: the element has no node there.",
-                     "Look for the joint in the source model."),
     reasons::Changed("element-number-shared",
                      "An area has the same label: two elements are written under one number.",
                      "Give the solids labels of their own in the source."),
@@ -499,7 +523,7 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Changed("link-advanced-axes",
                      "Advanced axes are turned into one angle, as if the link ran along global X.",
                      "Check the angle of the link in the host."),
-    reasons::Dropped("weight-of-linear-link", "The host's elastic links have no weight.",
+    reasons::Changed("weight-of-linear-link", "The host's elastic links have no weight.",
                      "Enter the weight as nodal loads and masses in the host."),
     reasons::Changed("link-property-without-values",
                      "Its kind is not known, or has no rows of directions: a property without name "
@@ -564,11 +588,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "soil-type-unknown",
         "Its soil type is not one of two letters: the first two are taken, or Sa if there is none.",
         "Correct the soil profile in the host."),
-    reasons::Changed(
-        "element-not-there",
-        "It names an element that the file does not have: its line in the output names "
-        "one that is not there.",
-        "Look for the element in the source model."),
 
     reasons::Dropped(
         "load-defined-again",

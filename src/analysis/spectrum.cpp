@@ -253,18 +253,32 @@ bool WriteSpectrumControl(Conversion& run, LineWriter& out) {
 
 namespace {
 
+bool SaysTheSame(const T_RSP1_D& definition, const T_RSP1_D& first) {
+  return definition.ModalCombo == first.ModalCombo &&
+         definition.TargetDamping() == first.TargetDamping() &&
+         definition.DirCombo == first.DirCombo && definition.DampingType == first.DampingType &&
+         definition.ABSSF == first.ABSSF && definition.GMCf1 == first.GMCf1 &&
+         definition.GMCf2 == first.GMCf2;
+}
+
 void CloseDefinitions(Conversion& run) {
   const auto& definitions = run.Source.Rows<T_RSP1_D>();
   const T_RSP1_D first = RecordOr(definitions.Find(1), T_RSP1_D{});
   for (const auto [key, definition] : definitions.Entries()) {
-    const bool isSame = definition.ModalCombo == first.ModalCombo &&
-                        definition.TargetDamping() == first.TargetDamping();
     if (key > 1) {
-      run.Accounts.Note<T_RSP1_D>(
-          key, isSame ? Why("definition-as-first") : Why("definition-not-first"));
+      run.Accounts.Note<T_RSP1_D>(key, SaysTheSame(definition, first)
+                                           ? Why("definition-as-first")
+                                           : Why("definition-not-first"));
+      continue;
     }
     if (definition.ConstDamp != definition.TargetDamping()) {
       run.Accounts.Note<T_RSP1_D>(key, "spectrum-damping-lost");
+    }
+    if (!definition.DampingType.empty() && definition.DampingType != "Constant") {
+      run.Accounts.Note<T_RSP1_D>(key, "spectrum-damping-of-other-kind");
+    }
+    if (!definition.DirCombo.empty() && definition.DirCombo != "SRSS") {
+      run.Accounts.Note<T_RSP1_D>(key, "spectrum-direction-combination");
     }
   }
 }

@@ -104,6 +104,11 @@ struct T_RSP1_D {
   static constexpr Text kTable = "T_RSP1_D";
   Text ModalCombo;  // "CQC", "SRSS" and others
   double ConstDamp = 0.0;
+  Text DirCombo;     // of the directions
+  Text DampingType;  // "Constant" and others
+  double ABSSF = 0.0;
+  double GMCf1 = 0.0;
+  double GMCf2 = 0.0;
 
   /// The damping in the output, which has one for this combination alone.
   double TargetDamping() const { return ModalCombo == "CQC" ? ConstDamp : 0.0; }
@@ -111,10 +116,14 @@ struct T_RSP1_D {
 
 template <>
 inline constexpr RowKey<T_RSP1_D> kRowKeys<T_RSP1_D>[] = {
-    Unread{"Case="},        {"ModalCombo=", &T_RSP1_D::ModalCombo},
-    Unread{"DirCombo="},    Unread{"GMCf1="},
-    Unread{"GMCf2="},       Unread{"ABSSF="},
-    Unread{"DampingType="}, {"ConstDamp=", &T_RSP1_D::ConstDamp},
+    Unread{"Case="},
+    {"ModalCombo=", &T_RSP1_D::ModalCombo},
+    Noted{"DirCombo=", &T_RSP1_D::DirCombo},
+    Noted{"GMCf1=", &T_RSP1_D::GMCf1},
+    Noted{"GMCf2=", &T_RSP1_D::GMCf2},
+    Noted{"ABSSF=", &T_RSP1_D::ABSSF},
+    Noted{"DampingType=", &T_RSP1_D::DampingType},
+    {"ConstDamp=", &T_RSP1_D::ConstDamp},
     Unread{"FuncDamp="}};
 
 /// A load of a spectrum case: a function in a direction.

@@ -2,8 +2,7 @@
 
 #include "bridge/parts.h"
 #include "frames/elements.h"
-#include "plates/areas.h"
-#include "plates/solids.h"
+#include "plates/element_references.h"
 #include "target/wrapped_list.h"
 
 #include <optional>
@@ -55,22 +54,6 @@ bool WriteLanes(Conversion& run, LineWriter& out) {
 
 // ---- Account ----
 
-namespace {
-
-/// Why a line of the output does not name the frame that its row names; nothing when it does.
-std::optional<Why> LossOfFrame(Conversion& run, Text frame) {
-  CModel& model = run.Source;
-  if (model.Rows<T_CNFR_D>().FirstWith<&T_CNFR_D::Frame>(frame)) {
-    return std::nullopt;
-  }
-  const bool isAnother = run.Elements.Renumbered() ||
-                         model.Rows<T_CNAR_D>().FirstWith<&T_CNAR_D::Area>(frame) ||
-                         model.Rows<T_CNSL_D>().FirstWith<&T_CNSL_D::Solid>(frame);
-  return isAnother ? Why("element-taken-from-another") : Why("element-not-there");
-}
-
-}  // namespace
-
 void CloseLanes(Conversion& run) {
   Parts lanes;
   bool isInLane = false;
@@ -82,7 +65,7 @@ void CloseLanes(Conversion& run) {
     if (lanes.IsFurther(row.LaneName)) {
       run.Accounts.Note<T_BLLN_D>(key, "written-in-parts");
     }
-    if (const std::optional<Why> why = LossOfFrame(run, row.Frame)) {
+    if (const std::optional<Why> why = WhyNotElement(run, row.Frame, kFrameFamily)) {
       run.Accounts.Note<T_BLLN_D>(key, *why);
     }
   }

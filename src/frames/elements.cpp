@@ -199,7 +199,7 @@ void NoteEnd(Conversion& run, std::uint32_t key, Text joint, std::int32_t iNode)
               joints.FirstWith<&T_JTCD_D::Joint>(joint).has_value();
   }
   if (!isThere) {
-    run.Accounts.Note<T_CNFR_D>(key, "frame-joint-unknown");
+    run.Accounts.Note<T_CNFR_D>(key, "end-or-corner-unknown");
   }
 }
 
@@ -248,7 +248,7 @@ std::optional<Why> WhyNoElement(Conversion& run, Text frame, std::uint32_t likel
   if (FrameWith(run.Source, frame, likelyKey)) {
     return std::nullopt;
   }
-  return run.Elements.Renumbered() ? Why("element-taken-from-another") : Why("frame-not-there");
+  return run.Elements.Renumbered() ? Why("element-taken-from-another") : Why("element-not-there");
 }
 
 namespace {
@@ -341,6 +341,7 @@ void ForEachRow(Conversion& run, void (*note)(Conversion& run, std::uint32_t key
 
 void CloseFrames(Conversion& run) {
   NoteFramesWithoutSection(run);
+  NoteOwnMaterials<T_FRSC_D>(run);
   ForEachRow<T_FRSC_D>(run, NoteAssignment);
   ForEachRow<T_FRTP_D>(run, NoteTypicalAxes);
   ForEachRow<T_FRAV_D>(run, NoteAdvancedAxes);

@@ -36,12 +36,14 @@ struct T_FRSC_D {
   static constexpr Text kTable = "T_FRSC_D";
   Text Frame;
   Text AnalSect;
+  Text MatProp;  // "Default" for that of the section
 };
 
 template <>
 inline constexpr RowKey<T_FRSC_D> kRowKeys<T_FRSC_D>[] = {
-    {"Frame=", &T_FRSC_D::Frame},       Unread{"SectionType="}, Unread{"AutoSelect="},
-    {"AnalSect=", &T_FRSC_D::AnalSect}, Unread{"DesignSect="},  Unread{"MatProp="}};
+    {"Frame=", &T_FRSC_D::Frame}, Unread{"SectionType="},
+    Unread{"AutoSelect="},        {"AnalSect=", &T_FRSC_D::AnalSect},
+    Unread{"DesignSect="},        Noted{"MatProp=", &T_FRSC_D::MatProp}};
 
 /// The name of a frame's section; nothing for a frame without an assignment row.
 std::optional<Text> SectionNameOf(CModel& model, Text frame);

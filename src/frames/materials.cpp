@@ -196,6 +196,12 @@ void NoteConstants(Conversion& run, std::uint32_t key, const T_MTAD_D& row) {
 }  // namespace
 
 void CloseMaterials(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_MTGN_D>().Entries()) {
+    // How much mass a weight has is up to the host. That there is none of one of them is not.
+    if (row.UnitMass >= 0.0 && IsAboveTolerance(row.UnitMass) != IsAboveTolerance(row.UnitWeight)) {
+      run.Accounts.Note<T_MTGN_D>(key, "mass-unlike-weight");
+    }
+  }
   for (const auto [key, row] : run.Source.Rows<T_MTAD_D>().Entries()) {
     NoteConstants(run, key, row);
   }

@@ -16,8 +16,9 @@ namespace s2k2ngt {
 struct T_MTGN_D {
   static constexpr Text kTable = "T_MTGN_D";
   Text Material;
-  Text Type;        // "Isotropic", "Anisotropic", or taken as orthotropic
-  Text DesignType;  // "None", "Concrete", "Steel" or another
+  Text Type;               // "Isotropic", "Anisotropic", or taken as orthotropic
+  Text DesignType;         // "None", "Concrete", "Steel" or another
+  double UnitMass = -1.0;  // below 0 where the row states none
   double UnitWeight = 0.0;
   double E = 0.0;
   double U = 0.0;
@@ -28,7 +29,7 @@ template <>
 inline constexpr RowKey<T_MTGN_D> kRowKeys<T_MTGN_D>[] = {{"Material=", &T_MTGN_D::Material},
                                                           {"Type=", &T_MTGN_D::Type},
                                                           {"DesignType=", &T_MTGN_D::DesignType},
-                                                          Unread{"UnitMass="},
+                                                          Noted{"UnitMass=", &T_MTGN_D::UnitMass},
                                                           {"UnitWeight=", &T_MTGN_D::UnitWeight},
                                                           {"E=", &T_MTGN_D::E},
                                                           {"U=", &T_MTGN_D::U},
@@ -124,6 +125,16 @@ struct T_NGT_MATL_D {
 // ---- Conversion ----
 
 bool ConvertMaterials(Conversion& run);
+
+/// Notes the assignments that state a material of their own, which does not go over.
+template <class Assignment>
+void NoteOwnMaterials(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<Assignment>().Entries()) {
+    if (!row.MatProp.empty() && row.MatProp != "Default") {
+      run.Accounts.Note<Assignment>(key, "material-of-assignment");
+    }
+  }
+}
 
 // ---- Output ----
 

@@ -218,9 +218,9 @@ bool HasScaleFactors(const T_FRSG_D& section) {
   return std::ranges::any_of(ModifiersOf(section), [](double modifier) { return modifier != 1.0; });
 }
 
-/// So a row that does not state them.
-bool HasModifiersOfZero(const T_FRSG_D& section) {
-  return std::ranges::all_of(ModifiersOf(section), [](double modifier) { return modifier == 0.0; });
+bool StatesAllModifiers(const T_FRSG_D& section) {
+  return section.StatesAMod && section.StatesA2Mod && section.StatesA3Mod && section.StatesJMod &&
+         section.StatesI3Mod && section.StatesI2Mod && section.StatesWMod;
 }
 
 /// Nothing when the target has no such shape, and the section is dropped.
@@ -244,7 +244,7 @@ void ConvertScaleFactors(Conversion& run) {
       continue;
     }
     // The bending factors cross over as the moments of inertia do.
-    if (HasModifiersOfZero(source)) {
+    if (!StatesAllModifiers(source)) {
       run.Accounts.Note<T_FRSG_D>(key, "section-modifiers-missing");
     }
     run.Target.Table<T_NGT_FRPM_D>().Append({.iSEC = static_cast<std::int32_t>(key),

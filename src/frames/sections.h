@@ -40,6 +40,14 @@ struct T_FRSG_D {
   double I2Mod = 0.0;
   double I3Mod = 0.0;
   double WMod = 0.0;
+  // Whether the row states the factors, as one that it does not state is written as 0.
+  bool StatesAMod = false;
+  bool StatesA2Mod = false;
+  bool StatesA3Mod = false;
+  bool StatesJMod = false;
+  bool StatesI2Mod = false;
+  bool StatesI3Mod = false;
+  bool StatesWMod = false;
   double MMod = 1.0;  // of the mass, which the target does not scale
 };
 
@@ -73,13 +81,20 @@ inline constexpr RowKey<T_FRSG_D> kRowKeys<T_FRSG_D>[] = {{"SectionName=", &T_FR
                                                           Unread{"TotalWt="},
                                                           Unread{"TotalMass="},
                                                           {"AMod=", &T_FRSG_D::AMod},
+                                                          States{"AMod=", &T_FRSG_D::StatesAMod},
                                                           {"A2Mod=", &T_FRSG_D::A2Mod},
+                                                          States{"A2Mod=", &T_FRSG_D::StatesA2Mod},
                                                           {"A3Mod=", &T_FRSG_D::A3Mod},
+                                                          States{"A3Mod=", &T_FRSG_D::StatesA3Mod},
                                                           {"JMod=", &T_FRSG_D::JMod},
+                                                          States{"JMod=", &T_FRSG_D::StatesJMod},
                                                           {"I2Mod=", &T_FRSG_D::I2Mod},
+                                                          States{"I2Mod=", &T_FRSG_D::StatesI2Mod},
                                                           {"I3Mod=", &T_FRSG_D::I3Mod},
+                                                          States{"I3Mod=", &T_FRSG_D::StatesI3Mod},
                                                           Noted{"MMod=", &T_FRSG_D::MMod},
                                                           {"WMod=", &T_FRSG_D::WMod},
+                                                          States{"WMod=", &T_FRSG_D::StatesWMod},
                                                           Unread{"SectInFile="},
                                                           Unread{"FileName="}};
 

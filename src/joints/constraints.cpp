@@ -219,7 +219,7 @@ void NoteLinked(Conversion& run, const Kind& kind, Text constraint, const T_NGT_
     const T_JTCA_D& row = *memberships.Find(key);
     if (!run.Target.NodeLabelsNumeric) {
       run.Accounts.Note<T_JTCA_D>(key, "constraint-names-no-joint");
-    } else if (const std::optional<Why> why = LossOfJoint(run, row.Joint)) {
+    } else if (const std::optional<Why> why = WhyNotJoint(run, row.Joint)) {
       run.Accounts.Note<T_JTCA_D>(key, *why);
     }
     if (row.Type != kind.Type) {

@@ -162,7 +162,7 @@ T_NGT_LCMX_D MatrixFromVectors(const T_NGT_LOCL_D& axes) {
 
 /// Notes what an advanced axes row names that is not known.
 void NoteVector(Conversion& run, std::uint32_t key, const VectorGiven& given) {
-  const auto isUnknown = [&run](Text joint) { return LossOfJoint(run, joint).has_value(); };
+  const auto isUnknown = [&run](Text joint) { return WhyNotJoint(run, joint).has_value(); };
   if (given.Option != kTwoJoints) {
     if (IsUserSystem(given.System)) {
       run.Accounts.Note<T_JTAV_D>(key, "coordinate-system-ignored");

@@ -146,7 +146,7 @@ void CloseJoints(Conversion& run) {
   NoteSharedNumbers(run, std::move(numbers));
 }
 
-std::optional<Why> LossOfJoint(Conversion& run, Text joint) {
+std::optional<Why> WhyNotJoint(Conversion& run, Text joint) {
   if (HasJoint(run.Source, joint)) {
     return std::nullopt;
   }

@@ -88,13 +88,13 @@ bool WriteNodes(Conversion& run, LineWriter& out);
 void CloseJoints(Conversion& run);
 
 /// Why a line of the output does not name the joint that its row names; nothing when it does.
-std::optional<Why> LossOfJoint(Conversion& run, Text joint);
+std::optional<Why> WhyNotJoint(Conversion& run, Text joint);
 
 /// Notes the rows of a table whose joint the file does not have.
 template <class Row>
 void NoteUnknownJoints(Conversion& run) {
   for (const auto [key, row] : run.Source.Rows<Row>().Entries()) {
-    if (const std::optional<Why> why = LossOfJoint(run, row.Joint)) {
+    if (const std::optional<Why> why = WhyNotJoint(run, row.Joint)) {
       run.Accounts.Note<Row>(key, *why);
     }
   }

@@ -260,6 +260,9 @@ bool ConvertFrameGravity(Conversion& run) {
     }
     const SectionWeight weight = weights.Of(*section);
     NoteWeight(run, key, weight);
+    if (!row.CoordSys.empty() && row.CoordSys != "GLOBAL") {
+      run.Accounts.Note<T_FRLG_D>(key, "coordinate-system-ignored");
+    }
     const std::array<std::pair<Text, double>, 3> axes = {
         {{"GX", row.MultiplierX}, {"GY", row.MultiplierY}, {"GZ", row.MultiplierZ}}};
     for (const auto& [direction, multiplier] : axes) {

@@ -66,6 +66,7 @@ struct T_FRLG_D {
   static constexpr Text kTable = "T_FRLG_D";
   Text Frame;
   Text LoadCase;
+  Text CoordSys;
   double MultiplierX = 0.0;
   double MultiplierY = 0.0;
   double MultiplierZ = 0.0;
@@ -74,7 +75,7 @@ struct T_FRLG_D {
 template <>
 inline constexpr RowKey<T_FRLG_D> kRowKeys<T_FRLG_D>[] = {{"Frame=", &T_FRLG_D::Frame},
                                                           {"LoadCase=", &T_FRLG_D::LoadCase},
-                                                          Unread{"CoordSys="},
+                                                          Noted{"CoordSys=", &T_FRLG_D::CoordSys},
                                                           {"MultiplierX=", &T_FRLG_D::MultiplierX},
                                                           {"MultiplierY=", &T_FRLG_D::MultiplierY},
                                                           {"MultiplierZ=", &T_FRLG_D::MultiplierZ}};

@@ -1,6 +1,7 @@
 #include "loads/joint_loads.h"
 
 #include "joints/local_axes.h"
+#include "joints/nodes.h"
 #include "loads/load_references.h"
 #include "target/load_frame.h"
 

@@ -2,15 +2,15 @@
 
 #include "common/text.h"
 #include "loads/load_cases.h"
+#include "plates/element_references.h"
 #include "target/conversion.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace s2k2ngt {
 
-// What the account asks of the load cases, joints and elements that rows of loads name. The output
-// has what such a row names, there or not; the account tells which are not.
+// What the account asks of the load cases and elements that rows of loads name. The output has what
+// such a row names, there or not; the account tells which are not.
 
 /// Tells which loads are written. Rows that follow each other mostly are of the same load case.
 class WrittenLoads {
@@ -46,14 +46,6 @@ class WrittenLoads {
   Text m_Last;
   bool m_HaveLast;
 };
-
-/// Why a line does not name the joint that its row names; nothing when it does.
-std::optional<Why> WhyNotJoint(Conversion& run, Text joint);
-
-/// The same of an element of a family.
-std::optional<Why> WhyNotElement(Conversion& run, Text label, Text family);
-
-bool HasFrame(CModel& model, Text frame);
 
 /// True when an unknown frame has the length and the joints of the last one.
 bool TakesLastFrame(CModel& model, Text frame);

@@ -333,6 +333,29 @@ void NoteSections(Conversion& run, NamesInUse& namesInUse) {
 
 }  // namespace
 
+namespace {
+
+bool HasModifiers(const T_ASPR_D& section) {
+  const auto modifiers = {section.F11Mod, section.F22Mod, section.F12Mod, section.M11Mod,
+                          section.M22Mod, section.M12Mod, section.V13Mod, section.V23Mod,
+                          section.MMod,   section.WMod};
+  return std::ranges::any_of(modifiers, [](double modifier) { return modifier != 1.0; });
+}
+
+void NoteMaterialsAndModifiers(Conversion& run) {
+  for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Entries()) {
+    if (HasModifiers(section)) {
+      run.Accounts.Note<T_ASPR_D>(key, "area-section-modifiers");
+    }
+    if (IsAboveTolerance(section.MatAngle)) {
+      run.Accounts.Note<T_ASPR_D>(key, "material-angle");
+    }
+  }
+  NoteOwnMaterials<T_ASCA_D>(run);
+}
+
+}  // namespace
+
 void CloseAreas(Conversion& run) {
   const KnownJoints joints(run);
   MetRows<&T_ASCA_D::Area, T_ASCA_D> assignments(run.Source.Rows<T_ASCA_D>());
@@ -345,6 +368,7 @@ void CloseAreas(Conversion& run) {
   }
   assignments.NoteOthers(run, "area-unknown");
   NoteSections(run, namesInUse);
+  NoteMaterialsAndModifiers(run);
 }
 
 }  // namespace s2k2ngt

@@ -148,6 +148,13 @@ void CloseSolids(Conversion& run) {
   }
   assignments.NoteOthers(run, "solid-unknown");
   NoteProperties(run, namesInUse);
+  NoteOwnMaterials<T_SLPA_D>(run);
+  for (const auto [key, property] : run.Source.Rows<T_SLPD_D>().Entries()) {
+    if (IsAboveTolerance(property.MatAngleA) || IsAboveTolerance(property.MatAngleB) ||
+        IsAboveTolerance(property.MatAngleC)) {
+      run.Accounts.Note<T_SLPD_D>(key, "material-angle");
+    }
+  }
   run.Accounts.NoteAll<T_SLAM_D>("table-not-read");
   run.Accounts.NoteAll<T_SLPT_D>("table-not-read");
 }

@@ -43,23 +43,34 @@
 namespace s2k2ngt {
 namespace {
 
-/// Words of the titles of tables that hold no part of a structural model.
-constexpr std::array kWordsOfNoModel = std::to_array<Text>({
-    "PREFERENCES",
-    "OPTIONS",
-    "PROJECT INFORMATION",
-    "PROJECT INFO",
+/// What titles begin with whose tables hold no part of a structural model: settings, and what
+/// other tables say as well.
+constexpr std::array kTitlesOfNoModel = std::to_array<Text>({
+    "DATABASE",
+    "FRAME AUTO SELECT",
+    "FRAME DESIGN",
+    "FRAME OUTPUT STATION",
+    "FUNCTION - PLOT",
     "GRID LINES",
     "GROUPS",
-    "DESIGN PROCEDURES",
+    "JOINT PATTERN DEFINITIONS",
+    "MASSES 2 - ASSEMBLED",
+    "MATERIAL PROPERTIES 3 - DESIGN",
+    "MATERIAL PROPERTIES 4 - DESIGN",
+    "MATERIAL PROPERTIES 5 - DESIGN",
+    "NAMED SETS",
+    "OPTIONS",
     "OVERWRITES",
-    "DISPLAY",
+    "PREFERENCES",
+    "PROJECT INFO",
+    "REBAR SIZES",
+    "SUMMARY - ",
 });
 
 bool HasNoModelData(Text title) {
   const std::string upper = ToUpper(title);
-  return std::ranges::any_of(kWordsOfNoModel,
-                             [&](Text word) { return upper.find(word) != Text::npos; });
+  return std::ranges::any_of(kTitlesOfNoModel,
+                             [&](Text beginning) { return upper.starts_with(beginning); });
 }
 
 /// The closing notes of the rooms, in the order of the source's topics.
@@ -103,7 +114,9 @@ void EnterBlock(const TableBlock& block, const TableOutcome& outcome, CModel& mo
     }
   } else if (outcome.Buckets == 0) {
     for (std::uint32_t position = 2; position <= block.Rows.size(); ++position) {
-      ledger.NoteRow(block, position, "first-row-counts");
+      ledger.NoteRow(block, position,
+                     outcome.Record == kCoordinateSystem ? Why("coordinate-system-below-first")
+                                                         : Why("first-row-counts"));
     }
   }
   if (block.FurtherLine > 0 && use && !use->Lost) {

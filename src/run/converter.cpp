@@ -31,6 +31,7 @@ class CConverter::Impl : private TableSink {
   Impl(Platform& platform, const RunOptions& options)
       : m_Options(options), m_Messages(platform), m_PrgsDlg(platform) {
     m_Failure.Reason.reserve(kNoMemory.size());  // when it is to be told there is none
+    m_Model.IsAccountedFor = options.KeepsAccount;
   }
 
   int Run(const char* pszPath);

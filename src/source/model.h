@@ -53,6 +53,9 @@ class CModel {
   const ActiveDegreesOfFreedom& Freedom() const { return m_ActiveDegreesOfFreedom; }
   const Units& CurrentUnits() const { return m_Units; }
 
+  /// True when an account of the rows is kept, for which some more of their keys are read.
+  bool IsAccountedFor = false;
+
   /// The bytes of the texts of the records.
   TextStore& Texts() { return m_Texts; }
 
@@ -86,7 +89,7 @@ template <class Record, class Refuse>
 std::optional<Refusal> StoreRowsUnless(TableRows rows, CModel& model, Refuse refuse) {
   CKeyedTable<Record>& records = model.Rows<Record>();
   records.Reserve(rows.size());
-  RowReader<Record> reader(model.Texts());
+  RowReader<Record> reader(model.Texts(), model.IsAccountedFor);
   std::uint32_t position = 0;
   for (const SourceRow& row : rows) {
     const Record record = reader.Read(row.Content);

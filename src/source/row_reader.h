@@ -26,15 +26,17 @@ namespace s2k2ngt {
 template <class Record>
 class RowReader {
  public:
-  /// The rows must outlive the reader, and `texts` the records.
-  explicit RowReader(TextStore& texts) : m_Texts(texts) {}
+  /// The rows must outlive the reader, and `texts` the records. Keys that the account alone has a
+  /// use for are read when there is one.
+  explicit RowReader(TextStore& texts, bool readsNotedKeys = false)
+      : m_Texts(texts), m_Keys(readsNotedKeys ? kReadKeys : kConvertedKeys) {}
 
   Record Read([[maybe_unused]] Text row) {
     static_assert(!std::is_same_v<decltype(kRowKeys<Record>), const NoKeysAreDeclared>,
                   "declare the record's keys beside it, in a kRowKeys");
     Record record;
     if constexpr (!std::is_empty_v<Record>) {
-      KeySet wanted = kReadKeys;
+      KeySet wanted = m_Keys;
       RowPairs pairs(row);
       for (std::size_t column = 0; wanted != 0 && pairs.Next(); ++column) {
         for (KeySet met = wanted & KeysOf(pairs.Word(), column); met != 0; met &= met - 1) {
@@ -56,15 +58,18 @@ class RowReader {
   };
 
   static_assert(std::size(kRowKeys<Record>) <= 64);
-  static constexpr KeySet kReadKeys = [] {
+  template <bool (RowKey<Record>::*IsWanted)() const>
+  static constexpr KeySet KeysThat() {
     KeySet keys = 0;
     KeySet key = 1;
     for (const RowKey<Record>& known : kRowKeys<Record>) {
-      keys |= known.IsRead() ? key : 0;
+      keys |= (known.*IsWanted)() ? key : 0;
       key <<= 1;
     }
     return keys;
-  }();
+  }
+  static constexpr KeySet kReadKeys = KeysThat<&RowKey<Record>::IsRead>();
+  static constexpr KeySet kConvertedKeys = KeysThat<&RowKey<Record>::IsConverted>();
 
   /// The keys in which the word ends.
   static KeySet KeysIn(Text word) {
@@ -120,6 +125,7 @@ class RowReader {
   }
 
   TextStore& m_Texts;
+  KeySet m_Keys;
   std::vector<Column> m_Columns;
 };
 

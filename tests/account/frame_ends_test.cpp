@@ -109,9 +109,9 @@ TEST(AccountOfFrameEndsTest, RowsOfUnknownFramesAreWrittenAllTheSame) {
       LossesOfFrames(Releases("   Frame=9   M3I=Yes\n") + EndLengths("   Frame=9   LengthI=0.2\n") +
                      InsertionPoints("   Frame=9   CoordSys=GLOBAL   JtOffsetXI=0.1\n") +
                      InitialForces("   Frame=9   Direction=\"X Proj\"   Force=1\n")),
-      ElementsAre("Frame=9: frame-not-there", "Frame=9: end-lengths-replaced",
-                  "Frame=9: frame-not-there", "Frame=9: frame-not-there",
-                  "Frame=9: frame-not-there"));
+      ElementsAre("Frame=9: element-not-there", "Frame=9: end-lengths-replaced",
+                  "Frame=9: element-not-there", "Frame=9: element-not-there",
+                  "Frame=9: element-not-there"));
 }
 
 TEST(AccountOfFrameEndsTest, RowsOfUnknownFramesOfARenumberedModelHaveAnotherNumber) {

@@ -52,9 +52,9 @@ TEST(AccountOfFramesTest, AFrameOfAnUnknownJointIsChanged) {
   const std::string assignments = "   Frame=1   AnalSect=BEAM\n   Frame=2   AnalSect=COLUMN\n";
   EXPECT_THAT(LossesWith("   Frame=1   JointI=1   JointJ=4\n   Frame=2   JointI=2   JointJ=3\n",
                          assignments),
-              ElementsAre("Frame=1: frame-joint-unknown"));
+              ElementsAre("Frame=1: end-or-corner-unknown"));
   EXPECT_THAT(LossesWith("   Frame=1   JointI=1   JointJ=2\n   Frame=2   JointJ=3\n", assignments),
-              ElementsAre("Frame=2: frame-joint-unknown"));
+              ElementsAre("Frame=2: end-or-corner-unknown"));
 }
 
 TEST(AccountOfFramesTest, AJointIsKnownWhereverItsRowStands) {
@@ -75,7 +75,7 @@ TEST(AccountOfFramesTest, AJointOfALabelWithLettersIsKnownOrNot) {
                                       "   Frame=2   JointI=A2   JointJ=A3\n") +
                           FrameAssignments())
                   .Losses(),
-              ElementsAre("Frame=2: frame-joint-unknown"));
+              ElementsAre("Frame=2: end-or-corner-unknown"));
 }
 
 TEST(AccountOfFramesTest, AFrameOfAnUnknownSectionIsChanged) {

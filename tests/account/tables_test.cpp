@@ -130,6 +130,7 @@ TEST(AccountOfTablesTest, RowsAboveTheEndOfAFileWithoutEndAreTold) {
       KeepAccountOfBytes("File model.s2k\n \nTABLE:  \"JOINT COORDINATES\"\n   Joint=1\n");
   EXPECT_EQ(run.Run.Result, s2k2ngt::kFailed);
   EXPECT_THAT(run.Tables(), ElementsAre("JOINT COORDINATES: 1 rows, 1 not looked at"));
+  EXPECT_STREQ(run.Rows.Tables[0].Reasons[0].Why->Code, "run-ended");
 }
 
 TEST(ReasonsTest, CodesAreWordsInSmallLettersAndAllDifferent) {

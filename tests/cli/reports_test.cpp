@@ -119,7 +119,8 @@ TEST_F(ReportsTest, AReportInAFolderThatIsNotThereIsToldBeforeAnythingIsConverte
   Write("model.s2k", kOneJoint);
   const CommandRun run = Call({"--report", "none/lost.json", "model.s2k"});
   EXPECT_EQ(run.Status, 64);
-  EXPECT_THAT(run.Err, HasSubstr("none/lost.json: the folder of the report is not there"));
+  EXPECT_THAT(run.Err,
+              HasSubstr("none/lost.json: cannot write the report: No such file or directory"));
   EXPECT_FALSE(Exists("model.ngt"));
 }
 
@@ -132,13 +133,34 @@ TEST_F(ReportsTest, AReportReplacesNeitherInputNorOutput) {
   EXPECT_FALSE(Exists("model.ngt"));
 }
 
-TEST_F(ReportsTest, AReportThatCannotBeWrittenFailsTheCall) {
+TEST_F(ReportsTest, AReportDoesNotReplaceAnInputByAnotherOfItsNames) {
+  Write("model.s2k", kOneJoint);
+  std::filesystem::create_hard_link(m_Folder.Path() / "model.s2k", m_Folder.Path() / "lost.json");
+  EXPECT_EQ(Call({"--report", "lost.json", "model.s2k"}).Status, 64);
+  EXPECT_EQ(Text("model.s2k"), kOneJoint);
+}
+
+TEST_F(ReportsTest, AReportThatCannotBeWrittenIsToldBeforeAnythingIsConverted) {
   Write("model.s2k", kOneJoint);
   std::filesystem::create_directory(m_Folder.Path() / "lost.json");
   const CommandRun run = Call({"--report", "lost.json", "model.s2k"});
-  EXPECT_EQ(run.Status, 2);
-  EXPECT_THAT(run.Err, HasSubstr("lost.json: cannot write the report: Is a directory"));
-  EXPECT_TRUE(Exists("model.ngt"));
+  EXPECT_EQ(run.Status, 64);
+  EXPECT_THAT(run.Err, HasSubstr("lost.json: the report would replace a folder"));
+  EXPECT_FALSE(Exists("model.ngt"));
+}
+
+TEST_F(ReportsTest, NothingIsLeftBesideAReport) {
+  Write("model.s2k", kOneJoint);
+  Write("lost.json", "of an earlier call");
+  Call({"--report", "lost.json", "model.s2k"});
+  EXPECT_EQ(Report("lost.json")["version"], 1);
+  EXPECT_FALSE(Exists("lost.json.part"));
+}
+
+TEST_F(ReportsTest, AReportMayLieInTheFolderOfTheOutputs) {
+  Write("model.s2k", kOneJoint);
+  EXPECT_EQ(Call({"-o", "outputs", "--report", "outputs/lost.json", "model.s2k"}).Status, 0);
+  EXPECT_TRUE(Exists("outputs/lost.json"));
 }
 
 TEST_F(ReportsTest, ACheckTellsTheLossesAndWritesNothing) {
@@ -192,7 +214,9 @@ TEST_F(ReportsTest, TheSummaryTellsHowManyFilesHaveLosses) {
   Write("lossy.s2k", kLosses);
   Write("whole.s2k", kOneJoint);
   EXPECT_THAT(Call({"--fail-on-loss", "lossy.s2k", "whole.s2k"}).Err,
-              HasSubstr("s2k2ngt: 2 files: 2 converted (1 with losses)\n"));
+              HasSubstr("s2k2ngt: 2 files: 2 converted (1 with losses)\n"
+                        "s2k2ngt: with losses:\n"
+                        "s2k2ngt:   lossy.s2k\n"));
   EXPECT_THAT(Call({"--check", "lossy.s2k", "whole.s2k"}).Err,
               HasSubstr("s2k2ngt: 2 files: 2 checked (1 with losses)\n"));
 }

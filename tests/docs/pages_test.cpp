@@ -39,9 +39,9 @@ TEST(Pages, OfReasonsIsWhatTheDeclarationsGive) {
 TEST(ReasonsPage, TellsAReasonInARow) {
   EXPECT_THAT(
       ReasonsPage(),
-      HasSubstr("| `table-without-model-data` | not looked at | no | The table holds no part "
-                "of the structural model: settings, groups, grids, or design. | There is "
-                "nothing to do for the analysis. |\n"));
+      HasSubstr("| `table-without-model-data` | not looked at | no | The table holds settings, "
+                "groups, grids, design data, or what other tables say as well. | There is nothing "
+                "to do for the analysis. |\n"));
 }
 
 TEST(ReasonsPage, HasNoTextThatWouldBreakItsTable) {

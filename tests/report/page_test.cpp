@@ -282,7 +282,7 @@ TEST(PageTest, ADrawingStandsAsItIs) {
 TEST(PageTest, SeveralFilesHaveAnOverviewWithALinkToEach) {
   const std::string page = Page({WholeFile("a.s2k"), FileWithDropped(2), WholeFile("c.s2k")},
                                 {ReasonR()}, {"<svg>a</svg>", "", "<svg>c</svg>"});
-  EXPECT_THAT(page, HasSubstr("<title>3 files converted</title>"));
+  EXPECT_THAT(page, HasSubstr("<title>Report of 3 files</title>"));
   EXPECT_THAT(Words(page), HasSubstr("3 files\n"));
   EXPECT_THAT(Words(page), HasSubstr("2 converted without loss\n1 converted with losses\n"));
   for (const char* number : {"0", "1", "2"}) {
