@@ -165,9 +165,10 @@ void Ledger::NoteKind(std::size_t kind, Why why) {
     return;
   }
   std::uint32_t done = 0;
-  for (auto block = m_Kinds[kind].rbegin(); block != m_Kinds[kind].rend(); ++block) {
-    for (; done < m_Blocks[*block].Rows; ++done) {
-      NoteAt(*block, done, why.Number());
+  const Kind newestFirst(m_Kinds[kind].rbegin(), m_Kinds[kind].rend());
+  for (const std::uint32_t block : newestFirst) {
+    for (; done < m_Blocks[block].Rows; ++done) {
+      NoteAt(block, done, why.Number());
     }
   }
 }
@@ -223,7 +224,7 @@ Account Ledger::MakeAccount(bool runIsWhole) const {
   std::iota(order.begin(), order.end(), 0);
   std::ranges::stable_sort(order, {}, [&](std::uint32_t number) { return m_Blocks[number].Line; });
   std::vector<FurtherNote> further = m_Further;
-  std::ranges::sort(further);
+  std::sort(further.begin(), further.end());
   further.erase(std::unique(further.begin(), further.end()), further.end());
   Account account;
   account.Tables.reserve(m_Blocks.size());

@@ -12,6 +12,7 @@
 #include <map>
 #include <span>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -91,7 +92,10 @@ class Ledger {
     std::uint32_t Block;
     std::uint32_t Row;
     std::uint16_t Why;
-    auto operator<=>(const FurtherNote&) const = default;
+    bool operator==(const FurtherNote&) const = default;
+    bool operator<(const FurtherNote& other) const {
+      return std::tie(Block, Row, Why) < std::tie(other.Block, other.Row, other.Why);
+    }
   };
   /// The blocks of a table that have rows in the model, the newest last. Each has more rows than
   /// the next, which has written over the first of them.

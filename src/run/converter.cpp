@@ -28,10 +28,10 @@ namespace s2k2ngt {
 /// The run itself. All that it works on lives as long as the driver.
 class CConverter::Impl : private TableSink {
  public:
-  Impl(Platform& platform, const RunOptions& options)
-      : m_Options(options), m_Messages(platform), m_PrgsDlg(platform) {
+  Impl(Platform& platform, RunOptions options)
+      : m_Options(std::move(options)), m_Messages(platform), m_PrgsDlg(platform) {
     m_Failure.Reason.reserve(kNoMemory.size());  // when it is to be told there is none
-    m_Model.IsAccountedFor = options.KeepsAccount;
+    m_Model.IsAccountedFor = m_Options.KeepsAccount;
   }
 
   int Run(const char* pszPath);

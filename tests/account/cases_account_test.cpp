@@ -10,7 +10,6 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// The losses of analysis cases beside DEAD and LIVE, with further tables.
 std::vector<std::string> LossesOfCases(std::string_view rows, const std::string& tables = "") {

@@ -8,7 +8,6 @@
 
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -142,6 +141,18 @@ TEST(AccountOfSpectrumTest, DefinitionsBehindTheFirstAreDroppedAndAreNoLossIfThe
                                   "   Case=RS4   ModalCombo=SRSS\n"),
               ElementsAre("Case=RS2: definition-as-first", "Case=RS3: definition-not-first",
                           "Case=RS4: definition-not-first"));
+}
+
+TEST(AccountOfSpectrumTest, CombinationsOfDirectionsAndOtherDampingOfTheFirstDefinitionAreChanged) {
+  EXPECT_THAT(
+      LossesOfDefinitions("   Case=RS   ModalCombo=CQC   DirCombo=SRSS   DampingType=Constant\n"
+                          "   Case=RS2   ModalCombo=CQC   DirCombo=ABS   ABSSF=0.3 _\n"
+                          "   DampingType=Constant\n"),
+      ElementsAre("Case=RS2: definition-not-first"));
+  EXPECT_THAT(LossesOfDefinitions("   Case=RS   ModalCombo=CQC   DirCombo=ABS   ABSSF=0.3\n"),
+              ElementsAre("Case=RS: spectrum-direction-combination"));
+  EXPECT_THAT(LossesOfDefinitions("   Case=RS   ModalCombo=CQC   DampingType=Period\n"),
+              ElementsAre("Case=RS: spectrum-damping-of-other-kind"));
 }
 
 TEST(AccountOfSpectrumTest, DefinitionsThatNoSpectrumCaseAsksForAreDropped) {

@@ -15,13 +15,14 @@ namespace s2k2ngt {
 template <class Record>
 class RowReader {
  public:
-  explicit RowReader(TextStore& texts) : m_Texts(texts) {}
+  explicit RowReader(TextStore& texts, bool readsNotedKeys = false)
+      : m_Texts(texts), m_ReadsNotedKeys(readsNotedKeys) {}
 
   Record Read([[maybe_unused]] Text row) {
     Record record;
     if constexpr (!std::is_empty_v<Record>) {
       for (const RowKey<Record>& key : kRowKeys<Record>) {
-        if (!key.IsRead()) {
+        if (!(m_ReadsNotedKeys ? key.IsRead() : key.IsConverted())) {
           continue;
         }
         if (const std::optional<Text> value = ValueInRow(row, key.Name())) {
@@ -34,6 +35,7 @@ class RowReader {
 
  private:
   [[maybe_unused]] TextStore& m_Texts;
+  [[maybe_unused]] bool m_ReadsNotedKeys;
 };
 
 }  // namespace s2k2ngt
