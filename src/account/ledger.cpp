@@ -144,6 +144,20 @@ void Ledger::NoteRow(const TableBlock& block, std::uint32_t position, Why why) {
   NoteAt(static_cast<std::uint32_t>(m_Blocks.size() - 1), row, why.Number());
 }
 
+void Ledger::NoteValue(std::uint32_t position, Why why) {
+  m_Values.push_back({static_cast<std::uint32_t>(m_Blocks.size() - 1), position - 1, why.Number()});
+}
+
+void Ledger::EnterLine(Text title, std::uint64_t line, Why why) {
+  if (m_Blocks.empty() || m_Blocks.back().Title != title) {
+    m_Blocks.emplace_back();
+    m_Blocks.back().Title = title;
+    m_Blocks.back().Line = line;
+    m_Blocks.back().WhyOfAll = why.Number();
+  }
+  ++m_Blocks.back().Rows;
+}
+
 // ---- While it is converted and written ----
 
 void Ledger::NoteKey(std::size_t kind, std::uint32_t key, Why why) {
@@ -190,6 +204,18 @@ void Ledger::NoteAt(std::uint32_t block, std::uint32_t row, std::uint16_t why) {
   }
 }
 
+void Ledger::SettleValues() {
+  for (const FurtherNote& value : m_Values) {
+    const Block& block = m_Blocks[value.Block];
+    const std::uint16_t why = block.Whys.empty() ? kNone : block.Whys[value.Row];
+    const bool rowGoesOver = why == kNone || kReasons[why].Fate == RowFate::Changed;
+    if (rowGoesOver && block.WhyOfAll == kNone) {
+      NoteAt(value.Block, value.Row, value.Why);
+    }
+  }
+  m_Values.clear();
+}
+
 // ---- The account ----
 
 namespace {
@@ -219,7 +245,8 @@ std::string Ledger::LabelOf(const Block& block, std::uint32_t row) {
   return block.LabelOf ? block.LabelOf(row + 1) : std::string();
 }
 
-Account Ledger::MakeAccount(bool runIsWhole) const {
+Account Ledger::MakeAccount(bool runIsWhole) {
+  SettleValues();
   std::vector<std::uint32_t> order(m_Blocks.size());
   std::iota(order.begin(), order.end(), 0);
   std::ranges::stable_sort(order, {}, [&](std::uint32_t number) { return m_Blocks[number].Line; });

@@ -47,6 +47,13 @@ class Ledger {
   void NoteBlock(Why why, Text message = {});
   /// Gives a row of the block, which was entered last, a reason. The row is not in the model.
   void NoteRow(const TableBlock& block, std::uint32_t position, Why why);
+  /// Notes that a value of a row of the block entered last is lost. It is told unless the whole row
+  /// turns out to be, or there is a reason for all rows.
+  void NoteValue(std::uint32_t position, Why why);
+
+  /// Enters a line that belongs to no table: under a title of our own, with those before it that
+  /// have the same.
+  void EnterLine(Text title, std::uint64_t line, Why why);
 
   // ---- While it is converted and written ----
 
@@ -69,7 +76,7 @@ class Ledger {
 
   /// The account of all that was noted. Rows without a reason are converted if the run has come to
   /// its end, and else not looked at.
-  Account MakeAccount(bool runIsWhole) const;
+  Account MakeAccount(bool runIsWhole);
 
  private:
   static constexpr std::uint16_t kNone = 65535;
@@ -87,7 +94,7 @@ class Ledger {
     std::map<std::uint32_t, std::string>
         Labels;  // of rows that the model does not hold, or no more
   };
-  /// A reason of a row that has a worse one, or one noted before.
+  /// A reason of a row beside that in Whys.
   struct FurtherNote {
     std::uint32_t Block;
     std::uint32_t Row;
@@ -112,13 +119,15 @@ class Ledger {
   void NoteKind(std::size_t kind, Why why);
   void WriteOver(Kind& kind, std::uint32_t rows);
   void NoteAt(std::uint32_t block, std::uint32_t row, std::uint16_t why);
+  void SettleValues();
   static std::string LabelOf(const Block& block, std::uint32_t row);
   static void Tell(const Block& block, std::span<const FurtherNote> further, bool runIsWhole,
                    Account& account);
 
   bool m_IsKept;
   std::vector<Block> m_Blocks;
-  std::vector<FurtherNote> m_Further;
+  std::vector<FurtherNote> m_Further;  // that are worse, or were noted before
+  std::vector<FurtherNote> m_Values;   // of values that are lost, until the fates of rows are known
   std::vector<Kind> m_Kinds;
 };
 

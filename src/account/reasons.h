@@ -58,6 +58,20 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                        "Coordinate systems below the first are not read. What stands in one of "
                        "them is told with its own rows.",
                        "Look at the rows that name the system."),
+    reasons::Reworded("coordinate-system-moved",
+                      "Where the system lies, and how it is turned, is not read. What stands in it "
+                      "is told with its own rows.",
+                      "Look at the rows that name the system."),
+    reasons::NotLookedAt("outside-of-tables",
+                         "The line stands before the first table, between two or behind the end.",
+                         "Look whether it belongs to a table, and give that its title."),
+    reasons::NotLookedAt("end-missing",
+                         "The file does not end in END TABLE DATA. What should stand there, if "
+                         "anything, is missing.",
+                         "Export the model again, or copy the file again if it was cut off."),
+    reasons::Changed("value-of-unknown-name",
+                     "The row states something by a name that is not known for its table.",
+                     "Look whether it matters to the structure, and enter it in the host."),
     reasons::Dropped("overwritten-by-later-block",
                      "A later block of the same table has written over the row.",
                      "Give each table one block."),
@@ -105,8 +119,7 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Changed("material-angle", "The angle of the material is not taken over.",
                      "Turn the axes of the elements in the host if the material is not isotropic."),
     reasons::Changed("mass-unlike-weight",
-                     "Of mass and weight it has one alone, and the host takes the mass from the "
-                     "weight.",
+                     "The mass is not that of the weight, from which the host takes it.",
                      "Set the weight or the mass of the material in the host."),
     reasons::Changed("area-section-modifiers",
                      "The host has no modifiers of area sections: they are left out.",
@@ -236,8 +249,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
 
     // Frames
 
-    reasons::Dropped("frame-stated-twice", "Another row of the same frame is taken.",
-                     "Give the frame one row of the table."),
     reasons::Redundant("switched-off", "Another row of the frame says that it is not in use.",
                        "There is nothing to do for the analysis."),
     reasons::Changed(
@@ -292,9 +303,7 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Dropped("end-lengths-replaced",
                      "A joint offset of the frame takes the place of its end lengths.",
                      "Add the end lengths to the joint offset in the host."),
-    reasons::Changed("joint-offset-local", "The joint offset in local directions is left out.",
-                     "Enter the offset in the host, or state it in global directions."),
-    reasons::Changed("joint-offset-in-user-system",
+    reasons::Dropped("joint-offset-not-global",
                      "The joint offset is not in the global system and is left out.",
                      "Enter the offset in the host, or state it in global directions."),
     reasons::Changed("joint-offset-stated-twice",
@@ -325,11 +334,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "The direction of the spring along the frame is none of 1, 2 and 3: a spring "
                      "without stiffness is written.",
                      "Enter the springs of both ends in the host."),
-    reasons::Changed("spread-along-another-frame",
-                     "It names a frame that the file does not have: what is spread along it goes "
-                     "to the joints of another frame.",
-                     "Look for the frame in the source model, and take the spring or mass off the "
-                     "other joints."),
     reasons::Changed(
         "spread-along-no-length",
         "The connectivity of the frame states no length: what is spread along it comes to nothing.",
@@ -417,6 +421,13 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Look for the section in the source model."),
 
     // Areas, solids and links
+
+    reasons::Changed("arc-of-axisymmetric", "The arc of axisymmetric elements is not taken over.",
+                     "Look for how much of the circle the host takes the loads and stiffness."),
+    reasons::Changed("without-incompatible-modes",
+                     "The elements are to do without incompatible bending modes, which the host is "
+                     "not told.",
+                     "Compare the bending of a coarse part of the model."),
 
     reasons::Changed("area-without-section",
                      "No section is assigned to the area: it is written without a type, with "
@@ -537,6 +548,16 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "link-direction-misplaced",
         "Its direction is none of U1 to R3: the values stand in that of the row before it.",
         "Correct the direction in the source."),
+    reasons::Changed("link-direction-fixed",
+                     "The direction is fixed, and goes over as one that has its stiffness alone.",
+                     "Give the direction a great stiffness in the host, or tie the joints."),
+    reasons::Changed("mass-of-link",
+                     "The host's links have no mass and no rotational inertia of their own.",
+                     "Enter the mass at the joints in the host."),
+    reasons::Changed(
+        "p-delta-share-of-link",
+        "How the moments of P-Delta are shared out between the ends is not taken over.",
+        "Look at the link if the analysis has P-Delta."),
     reasons::Changed("damping-of-linear-direction",
                      "The direction is linear: its effective damping is not written.",
                      "Enter the damping in the host."),
@@ -618,11 +639,11 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Enter the acceleration in the host."),
     reasons::Changed("load-scale-factor", "The scale factor of the load is not taken over.",
                      "Put the factor into a load combination in the host."),
-    reasons::Changed(
-        "case-of-several-loads",
-        "Its analysis case applies several loads, each of which becomes a load case of "
-        "its own.",
-        "Put the loads together in a load combination in the host."),
+    reasons::Changed("case-of-several-loads",
+                     "Its analysis case applies several loads, each of which becomes a load case "
+                     "of its own, and "
+                     "nothing adds them up.",
+                     "Put the loads together in a load combination in the host."),
     reasons::Reworded("case-of-another-name",
                       "The load case has the name of the load and not that of the analysis case.",
                       "Look whether load combinations name the analysis case."),
@@ -675,10 +696,12 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "A load at an absolute distance on a frame without a length comes before it, "
                      "and ends the table. The order is not that of the rows.",
                      "Mend the load that stands on a frame without a length, and convert again."),
-    reasons::Changed("last-frame-for-unknown",
-                     "It names a frame that the file does not have: length or joints of the last "
-                     "frame are taken.",
-                     "Look for the frame in the source model."),
+    reasons::Changed(
+        "last-frame-for-unknown",
+        "It names a frame that the file does not have: length or joints of another one "
+        "are taken.",
+        "Look for the frame in the source model, and take off the other joints what "
+        "does not belong there."),
     reasons::Dropped("frame-without-section", "Its frame has no section, and so no weight.",
                      "Assign a section to the frame."),
     reasons::Changed("frame-weight-unknown",
@@ -762,6 +785,10 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "It names no load case. Reference and material temperatures of areas do not, "
                      "and are taken for temperature loads.",
                      "Enter reference temperatures in the host."),
+    reasons::Changed("reference-by-pattern",
+                     "The reference temperature varies by a joint pattern, and is taken as one "
+                     "for the whole element.",
+                     "Correct the temperatures of the elements in the host."),
     reasons::Redundant("reference-not-used", "No temperature that is written counts from it.",
                        "There is nothing to do."),
     reasons::Dropped("material-temperature", "Material temperatures are not converted.",
@@ -814,12 +841,6 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "It starts from the end of another case, and is written as one that starts "
                      "unstressed.",
                      "Set the initial forces or stiffness in the host."),
-    reasons::Changed("static-case-of-several-loads",
-                     "Its loads become load cases of their own, which nothing adds up.",
-                     "Add a load combination in the host."),
-    reasons::Reworded("static-case-named-otherwise",
-                      "The load case bears the name of the load, not that of the case.",
-                      "Look for the name of the load."),
     reasons::Changed("gravity-of-small-unit",
                      "Gravity is written as 0.009806 in mm and as 0.09806 in cm.",
                      "Correct it in *STRUCTYPE, *LOADTOMASS, *SFUNCTION and *TFUNCTION."),
@@ -836,6 +857,16 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Another number of modes is written: at most one for each element, or those "
                      "of its starting vectors.",
                      "Set the number of modes in the host."),
+    reasons::Changed("modes-of-another-case",
+                     "It goes by the modes of another case than the one that is written: the host "
+                     "has one eigenvalue analysis.",
+                     "Look whether the modes that are written serve."),
+    reasons::Changed("search-of-modes",
+                     "Shift, cut-off and least number are not taken over: the host looks for the "
+                     "lowest modes, as many as are asked for.",
+                     "Choose a number of modes that holds those that are wanted."),
+    reasons::Changed("participation-of-vectors", "The host has no targets of mass participation.",
+                     "Choose a number of modes that reaches the target."),
     reasons::Dropped("participation-target", "The host has no targets of mass participation.",
                      "Choose a number of modes that reaches the target."),
     reasons::Dropped("starting-vector-of-other-kind",
@@ -890,6 +921,18 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Changed("history-defined-again",
                      "Its case is defined before: both become cases of one name.",
                      "Leave one definition for each case."),
+    reasons::Changed("history-motion-differs",
+                     "It states two types of motion. The case is transient or periodic by its "
+                     "HistoryType alone.",
+                     "Correct iTHTYPE in *THLDCASE."),
+    reasons::Changed("controls-of-steps",
+                     "Of the controls of steps and iterations the host has fewer: some are not "
+                     "taken over.",
+                     "Look at the convergence of the case in the host."),
+    reasons::Changed("nonlinearity-switched-off",
+                     "The case switches a nonlinearity of frames, cables or links off, which the "
+                     "host is not told.",
+                     "Take the nonlinear properties off the elements in the host."),
     reasons::Changed("history-output-interval",
                      "The interval of results is worked out from the longest step, and is not that "
                      "of the row.",
@@ -970,6 +1013,9 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "No general vehicle of the file has axles between its ends, and none is "
                      "converted.",
                      "Enter the vehicle in the host."),
+    reasons::Changed("vehicle-for-some-responses",
+                     "It is meant for some responses alone, and acts on all in the host.",
+                     "Give the responses cases of their own in the host."),
     reasons::Changed("vehicle-values-left-out",
                      "Of its loads and distances some are not written, or stand in the place of "
                      "others: the host has other places for vehicles with and without a uniform "
@@ -1007,6 +1053,8 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Set the factors in the host."),
     reasons::Changed("factor-of-nothing", "Its factor is 0 or less, for which 1 is written.",
                      "Set the factor in the host."),
+    reasons::Reworded("response-of-springs", "The forces of springs are not among the results.",
+                      "Ask for them in the host, or take the reactions."),
     reasons::Dropped("bridge-response-incomplete",
                      "It does not say of displacements, reactions and frames each for which the "
                      "response is wanted.",

@@ -68,10 +68,10 @@ Lost WhyStaticIsLost(Conversion& run, const T_ANAL_D& analysis) {
     return Why("case-without-loads");
   }
   if (ofCase.size() > 1) {
-    return Why("static-case-of-several-loads");
+    return Why("case-of-several-loads");
   }
   const bool bearsItsName = loads.AtWalk(ofCase.front()).Value.LoadName == analysis.Case;
-  return bearsItsName ? Lost() : Why("static-case-named-otherwise");
+  return bearsItsName ? Lost() : Why("case-of-another-name");
 }
 
 Lost WhyModalIsLost(Conversion& run, const T_ANAL_D& analysis) {
@@ -184,6 +184,20 @@ bool IsAnalysed(Conversion& run, Text name, Text type) {
       .has_value();
 }
 
+namespace {
+
+/// True when a case goes by modes that are not those in the output.
+bool NeedsOtherModes(Conversion& run, const T_ANAL_D& analysis) {
+  if (analysis.ModalCase.empty() || ToUpper(analysis.ModalCase) == "NONE") {
+    return false;
+  }
+  const T_MDL1_D* const written = run.Source.Rows<T_MDL1_D>().Find(1);
+  return !run.Target.Control<T_NGT_EGCT_D>().bWrite || written == nullptr ||
+         written->Case != analysis.ModalCase;
+}
+
+}  // namespace
+
 void CloseAnalysisCases(Conversion& run) {
   for (const auto [key, analysis] : run.Source.Rows<T_ANAL_D>().Entries()) {
     const Kind* const kind = KindOf(analysis);
@@ -197,6 +211,9 @@ void CloseAnalysisCases(Conversion& run) {
     if (!kind->HasInitialCondition && !analysis.InitialCond.empty() &&
         analysis.InitialCond != kStartsUnstressed) {
       run.Accounts.Note<T_ANAL_D>(key, "initial-condition-lost");
+    }
+    if (NeedsOtherModes(run, analysis)) {
+      run.Accounts.Note<T_ANAL_D>(key, "modes-of-another-case");
     }
   }
 }

@@ -15,6 +15,7 @@ struct T_ANAL_D {
   Text Case;
   Text Type;         // its kind, "LinStatic" and the like
   Text InitialCond;  // "Zero", or the case at whose end it starts
+  Text ModalCase;    // whose modes it goes by, for the account
 
   QualifiedLabel CaseOfType() const { return {Case, Type}; }
 };
@@ -33,10 +34,11 @@ inline constexpr Text kMovingLoad = "LinMoving";
 inline constexpr Text kBuckling = "LinBuckling";
 
 template <>
-inline constexpr RowKey<T_ANAL_D> kRowKeys<T_ANAL_D>[] = {{"Case=", &T_ANAL_D::Case},
-                                                          {"Type=", &T_ANAL_D::Type},
-                                                          {"InitialCond=", &T_ANAL_D::InitialCond},
-                                                          Unread{"ModalCase="}};
+inline constexpr RowKey<T_ANAL_D> kRowKeys<T_ANAL_D>[] = {
+    {"Case=", &T_ANAL_D::Case},
+    {"Type=", &T_ANAL_D::Type},
+    {"InitialCond=", &T_ANAL_D::InitialCond},
+    Noted{"ModalCase=", &T_ANAL_D::ModalCase}};
 
 // ---- Conversion ----
 

@@ -130,6 +130,12 @@ void CloseMethods(Conversion& run) {
 }  // namespace
 
 void CloseTimeHistories(Conversion& run) {
+  for (const auto [key, row] : run.Source.Rows<T_MDH1_D>().Entries()) {
+    const bool isTransient = T_MDH1_D::IsTransient(row.HistoryType);
+    if (!row.MotionType.empty() && T_MDH1_D::IsTransient(row.MotionType) != isTransient) {
+      run.Accounts.Note<T_MDH1_D>(key, "history-motion-differs");
+    }
+  }
   CloseHistoryDefinitions<T_MDH1_D>(run);
   CloseHistoryDefinitions<T_DRH1_D>(run);
   CloseParameters<T_MDH6_D, T_MDH1_D>(run);

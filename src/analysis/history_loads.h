@@ -28,16 +28,17 @@ struct HistoryLoad {
 };
 
 template <std::derived_from<HistoryLoad> Record>
-inline constexpr RowKey<Record> kRowKeys<Record>[] = {{"Case=", &HistoryLoad::Case},
-                                                      {"LoadType=", &HistoryLoad::LoadType},
-                                                      {"LoadName=", &HistoryLoad::LoadName},
-                                                      {"Function=", &HistoryLoad::Function},
-                                                      {"LoadSF=", &HistoryLoad::LoadSF},
-                                                      {"TransAccSF=", &HistoryLoad::TransAccSF},
-                                                      {"TimeFactor=", &HistoryLoad::TimeFactor},
-                                                      {"ArrivalTime=", &HistoryLoad::ArrivalTime},
-                                                      {"Angle=", &HistoryLoad::Angle},
-                                                      Unread{"CoordSys="}};
+inline constexpr RowKey<Record> kRowKeys<Record>[] = {
+    {"Case=", &HistoryLoad::Case},
+    {"LoadType=", &HistoryLoad::LoadType},
+    {"LoadName=", &HistoryLoad::LoadName},
+    {"Function=", &HistoryLoad::Function},
+    {"LoadSF=", &HistoryLoad::LoadSF},
+    {"TransAccSF=", &HistoryLoad::TransAccSF},
+    {"TimeFactor=", &HistoryLoad::TimeFactor},
+    {"ArrivalTime=", &HistoryLoad::ArrivalTime},
+    {"Angle=", &HistoryLoad::Angle},
+    LostUnless{"CoordSys=", "GLOBAL", "coordinate-system-ignored"}};
 
 struct T_MDH2_D : HistoryLoad {
   static constexpr Text kTable = "T_MDH2_D";

@@ -22,13 +22,14 @@ struct T_MDL1_D {
 };
 
 template <>
-inline constexpr RowKey<T_MDL1_D> kRowKeys<T_MDL1_D>[] = {{"Case=", &T_MDL1_D::Case},
-                                                          {"ModeType=", &T_MDL1_D::ModeType},
-                                                          {"MaxNumModes=", &T_MDL1_D::MaxNumModes},
-                                                          Unread{"MinNumModes="},
-                                                          Unread{"EigenShift="},
-                                                          Unread{"EigenCutOff="},
-                                                          {"EigenTol=", &T_MDL1_D::EigenTol}};
+inline constexpr RowKey<T_MDL1_D> kRowKeys<T_MDL1_D>[] = {
+    {"Case=", &T_MDL1_D::Case},
+    {"ModeType=", &T_MDL1_D::ModeType},
+    {"MaxNumModes=", &T_MDL1_D::MaxNumModes},
+    LostUnless{"MinNumModes=", "1", "search-of-modes"},
+    LostUnless{"EigenShift=", "0", "search-of-modes"},
+    LostUnless{"EigenCutOff=", "0", "search-of-modes"},
+    {"EigenTol=", &T_MDL1_D::EigenTol}};
 
 /// Loads of which an eigenvalue analysis is to reach a share. They have no place in the output.
 struct T_MDL2_D {
@@ -50,11 +51,12 @@ struct T_MDL3_D {
 };
 
 template <>
-inline constexpr RowKey<T_MDL3_D> kRowKeys<T_MDL3_D>[] = {{"Case=", &T_MDL3_D::Case},
-                                                          {"LoadType=", &T_MDL3_D::LoadType},
-                                                          {"LoadName=", &T_MDL3_D::LoadName},
-                                                          {"MaxCycles=", &T_MDL3_D::MaxCycles},
-                                                          Unread{"TargetPar="}};
+inline constexpr RowKey<T_MDL3_D> kRowKeys<T_MDL3_D>[] = {
+    {"Case=", &T_MDL3_D::Case},
+    {"LoadType=", &T_MDL3_D::LoadType},
+    {"LoadName=", &T_MDL3_D::LoadName},
+    {"MaxCycles=", &T_MDL3_D::MaxCycles},
+    LostUnless{"TargetPar=", "0", "participation-of-vectors"}};
 
 // ---- Target records ----
 

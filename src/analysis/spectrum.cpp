@@ -1,6 +1,7 @@
 #include "analysis/spectrum.h"
 
 #include "analysis/structure.h"
+#include "common/value_map.h"
 #include "target/wrapped_list.h"
 
 #include <cmath>
@@ -126,12 +127,6 @@ class SpectrumLoads {
 /// Notes how the load case of a row differs from the row.
 void NoteSpectrumLoad(Conversion& run, std::uint32_t key, const T_RSP2_D& row) {
   const auto note = [&](Why why) { run.Accounts.Note<T_RSP2_D>(key, why); };
-  const auto& rows = run.Source.Rows<T_RSP2_D>();
-  if (rows.KeysWith<&T_RSP2_D::Case>(row.Case).size() > 1) {
-    note("spectrum-case-split");
-  } else if (key == rows.Count()) {
-    note("spectrum-case-numbered");
-  }
   if (row.Function.empty() || row.LoadName.empty()) {
     note("value-of-row-before");
   }
@@ -148,6 +143,25 @@ void NoteSpectrumLoad(Conversion& run, std::uint32_t key, const T_RSP2_D& row) {
   }
 }
 
+/// Notes the rows whose load cases do not bear the name of their case alone.
+void NoteSpectrumNames(Conversion& run) {
+  const auto& rows = run.Source.Rows<T_RSP2_D>();
+  ValueMap<Text, std::uint32_t> rowsOfCase;  // without those that are lost
+  for (const auto [key, row] : rows.Entries()) {
+    rowsOfCase.Meet(row.Case).Result += row.IsGlobal() ? 1 : 0;
+  }
+  for (const auto [key, row] : rows.Entries()) {
+    if (!row.IsGlobal()) {
+      continue;
+    }
+    if (rowsOfCase.Meet(row.Case).Result > 1) {
+      run.Accounts.Note<T_RSP2_D>(key, "spectrum-case-split");
+    } else if (key == rows.Count()) {
+      run.Accounts.Note<T_RSP2_D>(key, "spectrum-case-numbered");
+    }
+  }
+}
+
 }  // namespace
 
 bool ConvertSpectrumLoads(Conversion& run) {
@@ -156,7 +170,7 @@ bool ConvertSpectrumLoads(Conversion& run) {
   std::uint32_t inHand = 0;  // the row of the load case in hand
   for (std::uint32_t key = 1; key <= rows.Count(); ++key) {
     const T_RSP2_D row = RecordOr(rows.Find(key), T_RSP2_D{});
-    if (row.CoordSys != "GLOBAL") {
+    if (!row.IsGlobal()) {
       // Meant so: as the last row it takes the load case in hand with it, and as the first it
       // leaves an empty one.
       run.Warnings.bSpectrumLoadLost = true;
@@ -177,6 +191,9 @@ bool ConvertSpectrumLoads(Conversion& run) {
   }
   if (inHand < rows.Count()) {
     run.Accounts.Note<T_RSP2_D>(inHand, "lost-with-next-row");
+  }
+  if (run.Accounts.IsKept()) {
+    NoteSpectrumNames(run);
   }
   return true;
 }

@@ -135,6 +135,9 @@ struct T_RSP2_D {
   Text Function;
   double Angle = 0.0;  // of U1 from X, degrees
   double TransAccSF = 0.0;
+
+  /// Rows in other systems are lost.
+  bool IsGlobal() const { return CoordSys == "GLOBAL"; }
 };
 
 template <>

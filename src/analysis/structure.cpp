@@ -17,12 +17,16 @@ namespace {
 struct LengthUnit {
   Text Name;
   double Factor;
+  double Gravity;  // as it is, in the unit per second squared
 };
 
 // Meant so: the metric factors run the other way from those of inches and feet. The outputs that
 // readers of the target have were made with them.
-constexpr std::array kLengthUnits = std::to_array<LengthUnit>(
-    {{"M", 1.0}, {"CM", 0.01}, {"MM", 0.001}, {"IN", 39.3701}, {"FT", 3.2808}});
+constexpr std::array kLengthUnits = std::to_array<LengthUnit>({{"M", 1.0, 9.80665},
+                                                               {"CM", 0.01, 980.665},
+                                                               {"MM", 0.001, 9806.65},
+                                                               {"IN", 39.3701, 386.0886},
+                                                               {"FT", 3.2808, 32.17405}});
 
 /// The length unit of the model; null for one that has no gravity of its own.
 const LengthUnit* LengthUnitOf(const CModel& source) {
@@ -37,6 +41,11 @@ double GravityInModelUnits(const CModel& source) {
   constexpr double kGravity = 9.806;
   const LengthUnit* const unit = LengthUnitOf(source);
   return unit == nullptr ? kGravity : unit->Factor * kGravity;
+}
+
+double TrueGravity(const CModel& source) {
+  const LengthUnit* const unit = LengthUnitOf(source);
+  return unit == nullptr ? 0.0 : unit->Gravity;
 }
 
 namespace {

@@ -50,8 +50,10 @@ struct T_NGT_LTMS_D {
 
 // ---- Conversion ----
 
-/// Gravity in the length unit of the model per second squared.
+/// Gravity in the length unit of the model per second squared, as the output has it.
 double GravityInModelUnits(const CModel& source);
+/// The same as it is; 0 for an unknown length unit.
+double TrueGravity(const CModel& source);
 
 /// Mass sources into loads to mass, and active degrees of freedom into the structure type.
 void ConvertStructure(Conversion& run);

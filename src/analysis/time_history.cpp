@@ -102,7 +102,7 @@ void ConvertModalHistory(Conversion& run, Text name, Linearity linearity, Text i
        definitions.AllWith<&T_MDH1_D::CaseByDamping>(QualifiedLabel{name, T_MDH1_D::kKept})) {
     const auto [key, definition] = definitions.AtWalk(position);
     SetCase(definition, linearity, initialCondition, history);
-    history.iTHTYPE = definition.HistoryType == "Transient" ? 1 : 2;
+    history.iTHTYPE = T_MDH1_D::IsTransient(definition.HistoryType) ? 1 : 2;
     if (!ConvertDamping(run.Source, definition, history.Damping)) {
       run.Warnings.bHistoryDataLost = true;
       // The definitions behind this one are not met.

@@ -21,6 +21,7 @@ struct T_MDH1_D {
   static constexpr Text kTable = "T_MDH1_D";
   Text Case;
   Text HistoryType;  // "Transient", or another word for periodic
+  Text MotionType;   // the same, in files that state it again; for the account
   Text DampingType;  // "Constant", "Pro-Direct", "Pro-Period", "Pro-Freq" and others
   std::int32_t OutSteps = 1;
   double StepSize = 0.0;  // seconds
@@ -29,17 +30,20 @@ struct T_MDH1_D {
   /// Definitions of a case that have a damping which the target has, and the others.
   QualifiedLabel CaseByDamping() const { return {Case, HasTargetDamping() ? kKept : kLost}; }
   bool HasTargetDamping() const;
+  static bool IsTransient(Text type) { return type == "Transient"; }
   static constexpr Text kKept = "kept";
   static constexpr Text kLost = "lost";
 };
 
 template <>
-inline constexpr RowKey<T_MDH1_D> kRowKeys<T_MDH1_D>[] = {{"Case=", &T_MDH1_D::Case},
-                                                          {"HistoryType=", &T_MDH1_D::HistoryType},
-                                                          {"DampingType=", &T_MDH1_D::DampingType},
-                                                          {"OutSteps=", &T_MDH1_D::OutSteps},
-                                                          {"StepSize=", &T_MDH1_D::StepSize},
-                                                          {"ConstDamp=", &T_MDH1_D::ConstDamp}};
+inline constexpr RowKey<T_MDH1_D> kRowKeys<T_MDH1_D>[] = {
+    {"Case=", &T_MDH1_D::Case},
+    {"HistoryType=", &T_MDH1_D::HistoryType},
+    Noted{"MotionType=", &T_MDH1_D::MotionType},
+    {"DampingType=", &T_MDH1_D::DampingType},
+    {"OutSteps=", &T_MDH1_D::OutSteps},
+    {"StepSize=", &T_MDH1_D::StepSize},
+    {"ConstDamp=", &T_MDH1_D::ConstDamp}};
 
 /// Definition of a direct history case.
 struct T_DRH1_D {
@@ -65,20 +69,21 @@ struct T_MDH6_D {
 };
 
 template <>
-inline constexpr RowKey<T_MDH6_D> kRowKeys<T_MDH6_D>[] = {{"Case=", &T_MDH6_D::Case},
-                                                          Unread{"PeriodStat="},
-                                                          {"DTMax=", &T_MDH6_D::DTMax},
-                                                          {"DTMin=", &T_MDH6_D::DTMin},
-                                                          {"FConvTol=", &T_MDH6_D::FConvTol},
-                                                          Unread{"EConvTol="},
-                                                          Unread{"ConvFactor="},
-                                                          {"ForceItMax=", &T_MDH6_D::ForceItMax},
-                                                          Unread{"ForceItMin="},
-                                                          Unread{"FrameTC="},
-                                                          Unread{"FrameHinge="},
-                                                          Unread{"CableTC="},
-                                                          Unread{"LinkTC="},
-                                                          Unread{"LinkOther="}};
+inline constexpr RowKey<T_MDH6_D> kRowKeys<T_MDH6_D>[] = {
+    {"Case=", &T_MDH6_D::Case},
+    LostUnless{"PeriodStat=", "0", "controls-of-steps"},
+    {"DTMax=", &T_MDH6_D::DTMax},
+    {"DTMin=", &T_MDH6_D::DTMin},
+    {"FConvTol=", &T_MDH6_D::FConvTol},
+    LostUnless{"EConvTol=", "0.00001", "controls-of-steps"},
+    LostUnless{"ConvFactor=", "1", "controls-of-steps"},
+    {"ForceItMax=", &T_MDH6_D::ForceItMax},
+    LostUnless{"ForceItMin=", "2", "controls-of-steps"},
+    LostUnless{"FrameTC=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"FrameHinge=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"CableTC=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"LinkTC=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"LinkOther=", "Yes", "nonlinearity-switched-off"}};
 
 /// Method by which a direct history is integrated.
 struct T_DRH4_D {
@@ -112,18 +117,19 @@ struct T_DRH5_D {
 };
 
 template <>
-inline constexpr RowKey<T_DRH5_D> kRowKeys<T_DRH5_D>[] = {{"Case=", &T_DRH5_D::Case},
-                                                          Noted{"GeoNonLin=", &T_DRH5_D::GeoNonLin},
-                                                          {"DTMax=", &T_DRH5_D::DTMax},
-                                                          {"DTMin=", &T_DRH5_D::DTMin},
-                                                          {"ItConvTol=", &T_DRH5_D::ItConvTol},
-                                                          Unread{"EvLumpTol="},
-                                                          {"MaxIter=", &T_DRH5_D::MaxIter},
-                                                          Unread{"FrameTC="},
-                                                          Unread{"FrameHinge="},
-                                                          Unread{"CableTC="},
-                                                          Unread{"LinkTC="},
-                                                          Unread{"LinkOther="}};
+inline constexpr RowKey<T_DRH5_D> kRowKeys<T_DRH5_D>[] = {
+    {"Case=", &T_DRH5_D::Case},
+    Noted{"GeoNonLin=", &T_DRH5_D::GeoNonLin},
+    {"DTMax=", &T_DRH5_D::DTMax},
+    {"DTMin=", &T_DRH5_D::DTMin},
+    {"ItConvTol=", &T_DRH5_D::ItConvTol},
+    LostUnless{"EvLumpTol=", "0.01", "controls-of-steps"},
+    {"MaxIter=", &T_DRH5_D::MaxIter},
+    LostUnless{"FrameTC=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"FrameHinge=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"CableTC=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"LinkTC=", "Yes", "nonlinearity-switched-off"},
+    LostUnless{"LinkOther=", "Yes", "nonlinearity-switched-off"}};
 
 // ---- Target records ----
 

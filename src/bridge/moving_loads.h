@@ -89,13 +89,14 @@ struct T_BLBR_D {
 };
 
 template <>
-inline constexpr RowKey<T_BLBR_D> kRowKeys<T_BLBR_D>[] = {Unread{"InitialCond="},
-                                                          {"Displs=", &T_BLBR_D::Displs},
-                                                          {"Reactions=", &T_BLBR_D::Reactions},
-                                                          Unread{"Springs="},
-                                                          {"Frames=", &T_BLBR_D::Frames},
-                                                          {"CalcMethod=", &T_BLBR_D::CalcMethod},
-                                                          {"Correspond=", &T_BLBR_D::Correspond}};
+inline constexpr RowKey<T_BLBR_D> kRowKeys<T_BLBR_D>[] = {
+    LostUnless{"InitialCond=", "Zero", "initial-condition-lost"},
+    {"Displs=", &T_BLBR_D::Displs},
+    {"Reactions=", &T_BLBR_D::Reactions},
+    LostUnless{"Springs=", "None", "response-of-springs"},
+    {"Frames=", &T_BLBR_D::Frames},
+    {"CalcMethod=", &T_BLBR_D::CalcMethod},
+    {"Correspond=", &T_BLBR_D::Correspond}};
 
 // ---- Target records ----
 

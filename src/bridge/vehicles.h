@@ -54,16 +54,17 @@ struct T_BLGV1_D {
 
 // "SupprotMom=" is how the source program spells its key.
 template <>
-inline constexpr RowKey<T_BLGV1_D> kRowKeys<T_BLGV1_D>[] = {{"VehName=", &T_BLGV1_D::VehName},
-                                                            Unread{"SupprotMom="},
-                                                            Unread{"IntSupport="},
-                                                            Unread{"OtherResp="},
-                                                            {"LeadUnif=", &T_BLGV1_D::LeadUnif},
-                                                            {"TrailUnif=", &T_BLGV1_D::TrailUnif},
-                                                            {"FirstAxle=", &T_BLGV1_D::FirstAxle},
-                                                            {"AxleMom=", &T_BLGV1_D::AxleMom},
-                                                            {"AxleOther=", &T_BLGV1_D::AxleOther},
-                                                            Unread{"NumInter="}};
+inline constexpr RowKey<T_BLGV1_D> kRowKeys<T_BLGV1_D>[] = {
+    {"VehName=", &T_BLGV1_D::VehName},
+    LostUnless{"SupprotMom=", "Yes", "vehicle-for-some-responses"},
+    LostUnless{"IntSupport=", "Yes", "vehicle-for-some-responses"},
+    LostUnless{"OtherResp=", "Yes", "vehicle-for-some-responses"},
+    {"LeadUnif=", &T_BLGV1_D::LeadUnif},
+    {"TrailUnif=", &T_BLGV1_D::TrailUnif},
+    {"FirstAxle=", &T_BLGV1_D::FirstAxle},
+    {"AxleMom=", &T_BLGV1_D::AxleMom},
+    {"AxleOther=", &T_BLGV1_D::AxleOther},
+    Unread{"NumInter="}};
 
 /// An axle between the ends of a general vehicle, with the uniform load ahead of it and the
 /// smallest and largest distance to it.

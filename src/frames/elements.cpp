@@ -285,7 +285,7 @@ void NoteTypicalAxes(Conversion& run, std::uint32_t key, const T_FRTP_D& row) {
     return;
   }
   if (run.Source.Rows<T_FRTP_D>().FirstWith<&T_FRTP_D::Frame>(row.Frame)->Key != key) {
-    run.Accounts.Note<T_FRTP_D>(key, "frame-stated-twice");
+    run.Accounts.Note<T_FRTP_D>(key, "row-of-same-name");
     return;
   }
   if (row.MirrorAbt2 || row.MirrorAbt3) {
@@ -319,7 +319,7 @@ void NoteAdvancedAxes(Conversion& run, std::uint32_t key, const T_FRAV_D& row) {
   if (!frame) {
     run.Accounts.Note<T_FRAV_D>(key, "frame-unknown");
   } else if (run.Source.Rows<T_FRAV_D>().FirstWith<&T_FRAV_D::Frame>(row.Frame)->Key != key) {
-    run.Accounts.Note<T_FRAV_D>(key, "frame-stated-twice");
+    run.Accounts.Note<T_FRAV_D>(key, "row-of-same-name");
   } else if (!typical) {
     run.Accounts.Note<T_FRAV_D>(key, "advanced-axes-without-typical");
   } else if (!typical->Value.AdvanceAxes) {

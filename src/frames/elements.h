@@ -82,17 +82,19 @@ struct T_FRAV_D {
 };
 
 template <>
-inline constexpr RowKey<T_FRAV_D> kRowKeys<T_FRAV_D>[] = {{"Frame=", &T_FRAV_D::Frame},
-                                                          {"LocalPlan=", &T_FRAV_D::LocalPlane},
-                                                          {"PlOption1=", &T_FRAV_D::PlOption1},
-                                                          Unread{"PlCoordSys="},
-                                                          {"CoordDir1=", &T_FRAV_D::CoordDir1},
-                                                          {"CoordDir2=", &T_FRAV_D::CoordDir2},
-                                                          {"PlVecJt1=", &T_FRAV_D::PlVecJt1},
-                                                          {"PlVecJt2=", &T_FRAV_D::PlVecJt2},
-                                                          Unread{"PlVecX="},
-                                                          {"PlVecY=", &T_FRAV_D::PlVecY},
-                                                          {"PlVecZ=", &T_FRAV_D::PlVecZ}};
+inline constexpr RowKey<T_FRAV_D> kRowKeys<T_FRAV_D>[] = {
+    {"Frame=", &T_FRAV_D::Frame},
+    {"LocalPlan=", &T_FRAV_D::LocalPlane},
+    Unread{"LocalPlane="},
+    {"PlOption1=", &T_FRAV_D::PlOption1},
+    LostUnless{"PlCoordSys=", "GLOBAL", "coordinate-system-ignored"},
+    {"CoordDir1=", &T_FRAV_D::CoordDir1},
+    {"CoordDir2=", &T_FRAV_D::CoordDir2},
+    {"PlVecJt1=", &T_FRAV_D::PlVecJt1},
+    {"PlVecJt2=", &T_FRAV_D::PlVecJt2},
+    Unread{"PlVecX="},
+    {"PlVecY=", &T_FRAV_D::PlVecY},
+    {"PlVecZ=", &T_FRAV_D::PlVecZ}};
 
 // ---- Target records ----
 

@@ -105,7 +105,7 @@ void NoteSystem(Conversion& run, std::uint32_t key, Text type) {
   if (type == kAlongElement) {
     run.Accounts.Note<T_FRIP_D>(key, "coordinate-system-ignored");
   } else if (type != kGlobal) {
-    run.Accounts.Note<T_FRIP_D>(key, "joint-offset-in-user-system");
+    run.Accounts.Note<T_FRIP_D>(key, "joint-offset-not-global");
   }
 }
 
@@ -126,7 +126,7 @@ void ConvertJointOffsets(Conversion& run) {
       continue;
     }
     if (frame.CoordSys == kLocal) {
-      run.Accounts.Note<T_FRIP_D>(key, "joint-offset-local");
+      run.Accounts.Note<T_FRIP_D>(key, "joint-offset-not-global");
       hasLocal = true;
       continue;
     }
@@ -262,7 +262,7 @@ void NotePartialFixity(Conversion& run, std::uint32_t key, const T_FRPF_D& row) 
                                          ? Why("partial-fixity-without-release")
                                          : Why("frame-unknown"));
   } else if (run.Source.Rows<T_FRPF_D>().FirstWith<&T_FRPF_D::Frame>(row.Frame)->Key != key) {
-    run.Accounts.Note<T_FRPF_D>(key, "frame-stated-twice");
+    run.Accounts.Note<T_FRPF_D>(key, "row-of-same-name");
   } else if (!IsWritten(run, release->Key)) {
     run.Accounts.Note<T_FRPF_D>(key, "partial-fixity-row-missing");
   } else if (!release->Value.PartialFix) {

@@ -100,10 +100,15 @@ struct T_FRIP_D {
 
 template <>
 inline constexpr RowKey<T_FRIP_D> kRowKeys<T_FRIP_D>[] = {
-    {"Frame=", &T_FRIP_D::Frame},           {"CardinalPt=", &T_FRIP_D::CardinalPt},
-    {"CoordSys=", &T_FRIP_D::CoordSys},     {"JtOffsetXI=", &T_FRIP_D::JtOffsetXI},
-    {"JtOffsetYI=", &T_FRIP_D::JtOffsetYI}, {"JtOffsetZI=", &T_FRIP_D::JtOffsetZI},
-    {"JtOffsetXJ=", &T_FRIP_D::JtOffsetXJ}, {"JtOffsetYJ=", &T_FRIP_D::JtOffsetYJ},
+    {"Frame=", &T_FRIP_D::Frame},
+    {"CardinalPt=", &T_FRIP_D::CardinalPt},
+    LostUnless{"Mirror2=", "No", "frame-mirrored"},
+    {"CoordSys=", &T_FRIP_D::CoordSys},
+    {"JtOffsetXI=", &T_FRIP_D::JtOffsetXI},
+    {"JtOffsetYI=", &T_FRIP_D::JtOffsetYI},
+    {"JtOffsetZI=", &T_FRIP_D::JtOffsetZI},
+    {"JtOffsetXJ=", &T_FRIP_D::JtOffsetXJ},
+    {"JtOffsetYJ=", &T_FRIP_D::JtOffsetYJ},
     {"JtOffsetZJ=", &T_FRIP_D::JtOffsetZJ}};
 
 // ---- Target records ----

@@ -20,10 +20,11 @@ struct T_FRPD_D {
 };
 
 template <>
-inline constexpr RowKey<T_FRPD_D> kRowKeys<T_FRPD_D>[] = {{"Frame=", &T_FRPD_D::Frame},
-                                                          Unread{"CoordSys="},
-                                                          {"Direction=", &T_FRPD_D::Direction},
-                                                          {"Force=", &T_FRPD_D::Force}};
+inline constexpr RowKey<T_FRPD_D> kRowKeys<T_FRPD_D>[] = {
+    {"Frame=", &T_FRPD_D::Frame},
+    LostUnless{"CoordSys=", "GLOBAL", "coordinate-system-ignored"},
+    {"Direction=", &T_FRPD_D::Direction},
+    {"Force=", &T_FRPD_D::Force}};
 
 /// The tendon of a frame: its tension, and its drape at both ends and the middle.
 struct T_FRPT_D {

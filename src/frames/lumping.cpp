@@ -22,7 +22,7 @@ void NoteFrame(Conversion& run, std::uint32_t key, const Row& row, const T_CNFR_
     return;
   }
   if (frame.Frame != row.Frame) {
-    run.Accounts.Note<Row>(key, "spread-along-another-frame");
+    run.Accounts.Note<Row>(key, "last-frame-for-unknown");
   }
   if (frame.Length == 0.0) {
     run.Accounts.Note<Row>(key, "spread-along-no-length");

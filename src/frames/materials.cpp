@@ -1,5 +1,8 @@
 #include "frames/materials.h"
 
+#include "analysis/structure.h"
+
+#include <cmath>
 #include <cstdint>
 
 namespace s2k2ngt {
@@ -193,12 +196,22 @@ void NoteConstants(Conversion& run, std::uint32_t key, const T_MTAD_D& row) {
   }
 }
 
+/// True when mass and weight go together, but for the digits of common tables.
+bool IsMassOfWeight(Conversion& run, const T_MTGN_D& material) {
+  constexpr double kDigits = 0.01;
+  const double gravity = TrueGravity(run.Source);
+  if (gravity == 0.0) {
+    return IsAboveTolerance(material.UnitMass) == IsAboveTolerance(material.UnitWeight);
+  }
+  const double weight = std::abs(material.UnitWeight);
+  return std::abs(material.UnitMass * gravity - weight) <= kDigits * weight;
+}
+
 }  // namespace
 
 void CloseMaterials(Conversion& run) {
   for (const auto [key, row] : run.Source.Rows<T_MTGN_D>().Entries()) {
-    // How much mass a weight has is up to the host. That there is none of one of them is not.
-    if (row.UnitMass >= 0.0 && IsAboveTolerance(row.UnitMass) != IsAboveTolerance(row.UnitWeight)) {
+    if (row.UnitMass >= 0.0 && !IsMassOfWeight(run, row)) {
       run.Accounts.Note<T_MTGN_D>(key, "mass-unlike-weight");
     }
   }

@@ -13,7 +13,7 @@ namespace s2k2ngt {
 // ---- Source rows ----
 
 std::optional<Refusal> StoreJoints(TableRows rows, CModel& model, Messages& /*shown*/) {
-  return StoreRowsUnless<T_JTCD_D>(
+  std::optional<Refusal> refusal = StoreRowsUnless<T_JTCD_D>(
       rows, model, [](const T_JTCD_D& joint) -> std::optional<std::string> {
         if (joint.CoordType == "Cartesian") {
           return std::nullopt;
@@ -21,6 +21,12 @@ std::optional<Refusal> StoreJoints(TableRows rows, CModel& model, Messages& /*sh
         return "joint " + std::string(joint.Joint) +
                " has CoordType=" + std::string(joint.CoordType) + ", only Cartesian is read";
       });
+  // Whether the system matters of a joint that states where it is in the global one shows by that.
+  std::erase_if(model.LostValues, [&](const LostValue& value) {
+    return value.Reason == Why("coordinate-system-ignored") &&
+           RecordOr(model.Rows<T_JTCD_D>().Find(value.Position), T_JTCD_D{}).StatesGlobal;
+  });
+  return refusal;
 }
 
 namespace {

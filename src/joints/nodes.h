@@ -29,7 +29,7 @@ struct T_JTCD_D {
 template <>
 inline constexpr RowKey<T_JTCD_D> kRowKeys<T_JTCD_D>[] = {
     {"Joint=", &T_JTCD_D::Joint},
-    Unread{"CoordSys="},
+    LostUnless{"CoordSys=", "GLOBAL", "coordinate-system-ignored"},
     {"CoordType=", &T_JTCD_D::CoordType},
     {"XorR=", &T_JTCD_D::XorR},
     {"Y=", &T_JTCD_D::Y},

@@ -83,13 +83,19 @@ struct T_SLRT_D {
 
 template <>
 inline constexpr RowKey<T_FRRT_D> kRowKeys<T_FRRT_D>[] = {
-    {"Frame=", &T_FRRT_D::Frame}, {"Temp=", &T_FRRT_D::Temp}, Unread{"JtPattern="}};
+    {"Frame=", &T_FRRT_D::Frame},
+    {"Temp=", &T_FRRT_D::Temp},
+    LostUnless{"JtPattern=", "None", "reference-by-pattern"}};
 template <>
 inline constexpr RowKey<T_AMRT_D> kRowKeys<T_AMRT_D>[] = {
-    {"Area=", &T_AMRT_D::Area}, {"Temp=", &T_AMRT_D::Temp}, Unread{"JtPattern="}};
+    {"Area=", &T_AMRT_D::Area},
+    {"Temp=", &T_AMRT_D::Temp},
+    LostUnless{"JtPattern=", "None", "reference-by-pattern"}};
 template <>
 inline constexpr RowKey<T_SLRT_D> kRowKeys<T_SLRT_D>[] = {
-    {"Solid=", &T_SLRT_D::Solid}, {"Temp=", &T_SLRT_D::Temp}, Unread{"JtPattern="}};
+    {"Solid=", &T_SLRT_D::Solid},
+    {"Temp=", &T_SLRT_D::Temp},
+    LostUnless{"JtPattern=", "None", "reference-by-pattern"}};
 
 /// Material temperatures of areas. They have no place in the output.
 struct T_AMMT_D {

@@ -86,25 +86,26 @@ struct T_LLCA_D {
 };
 
 template <>
-inline constexpr RowKey<T_LLCA_D> kRowKeys<T_LLCA_D>[] = {{"Link=", &T_LLCA_D::Link},
-                                                          {"LocalPlane=", &T_LLCA_D::LocalPlane},
-                                                          Unread{"AxOption1="},
-                                                          Unread{"AxCoordSys="},
-                                                          Unread{"AxCoordDir="},
-                                                          Unread{"AxVecJt1="},
-                                                          Unread{"AxVecJt2="},
-                                                          {"PlOption1=", &T_LLCA_D::PlOption1},
-                                                          Unread{"PlCoordSys="},
-                                                          {"CoordDir1=", &T_LLCA_D::CoordDir1},
-                                                          {"CoordDir2=", &T_LLCA_D::CoordDir2},
-                                                          {"PlVecJt1=", &T_LLCA_D::PlVecJt1},
-                                                          {"PlVecJt2=", &T_LLCA_D::PlVecJt2},
-                                                          Unread{"AxVecX="},
-                                                          Unread{"AxVecY="},
-                                                          Unread{"AxVecZ="},
-                                                          Unread{"PlVecX="},
-                                                          {"PlVecY=", &T_LLCA_D::PlVecY},
-                                                          {"PlVecZ=", &T_LLCA_D::PlVecZ}};
+inline constexpr RowKey<T_LLCA_D> kRowKeys<T_LLCA_D>[] = {
+    {"Link=", &T_LLCA_D::Link},
+    {"LocalPlane=", &T_LLCA_D::LocalPlane},
+    Unread{"AxOption1="},
+    LostUnless{"AxCoordSys=", "GLOBAL", "coordinate-system-ignored"},
+    Unread{"AxCoordDir="},
+    Unread{"AxVecJt1="},
+    Unread{"AxVecJt2="},
+    {"PlOption1=", &T_LLCA_D::PlOption1},
+    LostUnless{"PlCoordSys=", "GLOBAL", "coordinate-system-ignored"},
+    {"CoordDir1=", &T_LLCA_D::CoordDir1},
+    {"CoordDir2=", &T_LLCA_D::CoordDir2},
+    {"PlVecJt1=", &T_LLCA_D::PlVecJt1},
+    {"PlVecJt2=", &T_LLCA_D::PlVecJt2},
+    Unread{"AxVecX="},
+    Unread{"AxVecY="},
+    Unread{"AxVecZ="},
+    Unread{"PlVecX="},
+    {"PlVecY=", &T_LLCA_D::PlVecY},
+    {"PlVecZ=", &T_LLCA_D::PlVecZ}};
 
 // In the tables of properties Link= names the property.
 
@@ -122,18 +123,19 @@ inline QualifiedLabel NameAndKind(const T_LPGN_D& property) {
 }
 
 template <>
-inline constexpr RowKey<T_LPGN_D> kRowKeys<T_LPGN_D>[] = {{"Link=", &T_LPGN_D::Link},
-                                                          {"LinkType=", &T_LPGN_D::LinkType},
-                                                          Unread{"Mass="},
-                                                          {"Weight=", &T_LPGN_D::Weight},
-                                                          Unread{"RotInert1="},
-                                                          Unread{"RotInert2="},
-                                                          Unread{"RotInert3="},
-                                                          Unread{"PDM2I="},
-                                                          Unread{"PDM2J="},
-                                                          Unread{"PDM3I="},
-                                                          Unread{"PDM3J="},
-                                                          Unread{"Color="}};
+inline constexpr RowKey<T_LPGN_D> kRowKeys<T_LPGN_D>[] = {
+    {"Link=", &T_LPGN_D::Link},
+    {"LinkType=", &T_LPGN_D::LinkType},
+    LostUnless{"Mass=", "0", "mass-of-link"},
+    {"Weight=", &T_LPGN_D::Weight},
+    LostUnless{"RotInert1=", "0", "mass-of-link"},
+    LostUnless{"RotInert2=", "0", "mass-of-link"},
+    LostUnless{"RotInert3=", "0", "mass-of-link"},
+    LostUnless{"PDM2I=", "0", "p-delta-share-of-link"},
+    LostUnless{"PDM2J=", "0", "p-delta-share-of-link"},
+    LostUnless{"PDM3I=", "0", "p-delta-share-of-link"},
+    LostUnless{"PDM3J=", "0", "p-delta-share-of-link"},
+    Unread{"Color="}};
 
 /// A direction of a linear property.
 struct T_LPLN_D {
@@ -147,8 +149,13 @@ struct T_LPLN_D {
 
 template <>
 inline constexpr RowKey<T_LPLN_D> kRowKeys<T_LPLN_D>[] = {
-    {"Link=", &T_LPLN_D::Link},   {"DOF=", &T_LPLN_D::DOF}, {"TransKE=", &T_LPLN_D::TransKE},
-    {"RotKE=", &T_LPLN_D::RotKE}, Unread{"TransCE="},       Unread{"RotCE="},
+    {"Link=", &T_LPLN_D::Link},
+    {"DOF=", &T_LPLN_D::DOF},
+    LostUnless{"Fixed=", "No", "link-direction-fixed"},
+    {"TransKE=", &T_LPLN_D::TransKE},
+    {"RotKE=", &T_LPLN_D::RotKE},
+    LostUnless{"TransCE=", "0", "damping-of-linear-direction"},
+    LostUnless{"RotCE=", "0", "damping-of-linear-direction"},
     {"DJ=", &T_LPLN_D::DJ}};
 
 /// What a direction of every nonlinear property has: its linear stiffness and damping. Keys of
@@ -165,10 +172,15 @@ struct NonlinearDirection {
 };
 
 inline constexpr RowKey<NonlinearDirection> kNonlinearDirectionKeys[] = {
-    {"Link=", &NonlinearDirection::Link},           {"DOF=", &NonlinearDirection::DOF},
-    {"NonLinear=", &NonlinearDirection::NonLinear}, {"TransKE=", &NonlinearDirection::TransKE},
-    {"RotKE=", &NonlinearDirection::RotKE},         {"TransCE=", &NonlinearDirection::TransCE},
-    {"RotCE=", &NonlinearDirection::RotCE},         {"DJ=", &NonlinearDirection::DJ}};
+    {"Link=", &NonlinearDirection::Link},
+    {"DOF=", &NonlinearDirection::DOF},
+    LostUnless{"Fixed=", "No", "link-direction-fixed"},
+    {"NonLinear=", &NonlinearDirection::NonLinear},
+    {"TransKE=", &NonlinearDirection::TransKE},
+    {"RotKE=", &NonlinearDirection::RotKE},
+    {"TransCE=", &NonlinearDirection::TransCE},
+    {"RotCE=", &NonlinearDirection::RotCE},
+    {"DJ=", &NonlinearDirection::DJ}};
 
 /// A damper.
 struct T_LPDM_D : NonlinearDirection {

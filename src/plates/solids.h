@@ -61,15 +61,16 @@ struct T_SLPD_D {
 };
 
 template <>
-inline constexpr RowKey<T_SLPD_D> kRowKeys<T_SLPD_D>[] = {{"SolidProp=", &T_SLPD_D::SolidProp},
-                                                          {"Material=", &T_SLPD_D::Material},
-                                                          Noted{"MatAngleA=", &T_SLPD_D::MatAngleA},
-                                                          Noted{"MatAngleB=", &T_SLPD_D::MatAngleB},
-                                                          Noted{"MatAngleC=", &T_SLPD_D::MatAngleC},
-                                                          Unread{"InComp="},
-                                                          Unread{"Color="},
-                                                          Unread{"TotalWt="},
-                                                          Unread{"TotalMass="}};
+inline constexpr RowKey<T_SLPD_D> kRowKeys<T_SLPD_D>[] = {
+    {"SolidProp=", &T_SLPD_D::SolidProp},
+    {"Material=", &T_SLPD_D::Material},
+    Noted{"MatAngleA=", &T_SLPD_D::MatAngleA},
+    Noted{"MatAngleB=", &T_SLPD_D::MatAngleB},
+    Noted{"MatAngleC=", &T_SLPD_D::MatAngleC},
+    LostUnless{"InComp=", "Yes", "without-incompatible-modes"},
+    Unread{"Color="},
+    Unread{"TotalWt="},
+    Unread{"TotalMass="}};
 
 /// Gravity loads of solids; the conversion only asks whether there are any.
 struct T_SLLG_D {

@@ -124,6 +124,13 @@ void EnterBlock(const TableBlock& block, const TableOutcome& outcome, CModel& mo
   }
 }
 
+void EnterLostValues(CModel& model, Ledger& ledger) {
+  for (const LostValue& value : model.LostValues) {
+    ledger.NoteValue(value.Position, value.Reason);
+  }
+  model.LostValues.clear();
+}
+
 void EnterRefusal(const TableBlock& block, const Refusal& refusal, Ledger& ledger) {
   const auto row = std::ranges::find(block.Rows, refusal.Line, &SourceRow::Line);
   ledger.NoteRow(block, static_cast<std::uint32_t>(row - block.Rows.begin()) + 1, "row-refused");
@@ -142,6 +149,14 @@ void EnterLostRows(const TableBlock& block, RowsLost how, Ledger& ledger) {
       ledger.NoteBlock("run-ended");
       break;
   }
+}
+
+void EnterLineOfNoTable(std::uint64_t line, Ledger& ledger) {
+  ledger.EnterLine("(outside of the tables)", line, "outside-of-tables");
+}
+
+void EnterMissingEnd(std::uint64_t lines, Ledger& ledger) {
+  ledger.EnterLine("(end of the file)", lines, "end-missing");
 }
 
 void CloseAccounts(Conversion& run) {

@@ -14,11 +14,20 @@ namespace s2k2ngt {
 void EnterBlock(const TableBlock& block, const TableOutcome& outcome, CModel& model,
                 Ledger& ledger);
 
+/// Notes what is lost with rows of the block entered last, which the model has stored.
+void EnterLostValues(CModel& model, Ledger& ledger);
+
 /// Notes the row of the block entered last that refuses the file.
 void EnterRefusal(const TableBlock& block, const Refusal& refusal, Ledger& ledger);
 
 /// Enters rows that no block brings.
 void EnterLostRows(const TableBlock& block, RowsLost how, Ledger& ledger);
+
+/// Enters a line that the scan passes over.
+void EnterLineOfNoTable(std::uint64_t line, Ledger& ledger);
+
+/// Enters that the file, of so many lines, does not state its end.
+void EnterMissingEnd(std::uint64_t lines, Ledger& ledger);
 
 /// Notes the rows that are lost because no stage and no writer has asked for them. Runs when all
 /// is written.

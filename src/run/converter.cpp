@@ -37,7 +37,7 @@ class CConverter::Impl : private TableSink {
   int Run(const char* pszPath);
   const Diagnostic& Failure() const { return m_Failure; }
   std::uint64_t RowCount() const { return m_Model.RowCount(); }
-  Account AccountOfRows() const { return m_Ledger.MakeAccount(m_IsWhole); }
+  Account AccountOfRows() { return m_Ledger.MakeAccount(m_IsWhole); }
   Drawing DrawingOfModel() const { return m_IsWhole ? DrawingOf(m_Conversion) : Drawing(); }
 
  private:
@@ -52,6 +52,7 @@ class CConverter::Impl : private TableSink {
   bool WantsRows(int tableId) override;
   bool DispatchRows(const TableBlock& block) override;
   void LoseRows(const TableBlock& block, RowsLost how) override;
+  void PassOver(std::uint64_t line) override;
   bool StoreRows(const TableBlock& block, RowParser parse);
 
   RunOptions m_Options;
@@ -121,6 +122,9 @@ int CConverter::Impl::Read(Text image) {
     m_Failure.Table = scanner.Title();
     m_Failure.Reason = scanner.Reason();
   }
+  if (result == kConverted && m_Ledger.IsKept() && !scanner.HasEnd()) {
+    EnterMissingEnd(scanner.LineNumber(), m_Ledger);
+  }
   return result;
 }
 
@@ -143,7 +147,11 @@ bool CConverter::Impl::DispatchRows(const TableBlock& block) {
 bool CConverter::Impl::StoreRows(const TableBlock& block, RowParser parse) {
   m_Failure.Table = block.Title;
   m_Failure.Line = block.Rows.empty() ? block.Line : block.Rows.front().Line;
-  if (const std::optional<Refusal> refusal = parse(block.Rows, m_Model, m_Messages)) {
+  const std::optional<Refusal> refusal = parse(block.Rows, m_Model, m_Messages);
+  if (m_Ledger.IsKept()) {
+    EnterLostValues(m_Model, m_Ledger);
+  }
+  if (refusal) {
     m_Failure.Line = refusal->Line;
     m_Failure.Reason = refusal->Reason;
     if (m_Ledger.IsKept()) {
@@ -159,6 +167,12 @@ bool CConverter::Impl::StoreRows(const TableBlock& block, RowParser parse) {
 void CConverter::Impl::LoseRows(const TableBlock& block, RowsLost how) {
   if (m_Ledger.IsKept()) {
     EnterLostRows(block, how, m_Ledger);
+  }
+}
+
+void CConverter::Impl::PassOver(std::uint64_t line) {
+  if (m_Ledger.IsKept()) {
+    EnterLineOfNoTable(line, m_Ledger);
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "account/reasons.h"
 #include "common/messages.h"
 #include "common/record_tables.h"
 #include "common/text.h"
@@ -11,6 +12,7 @@
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace s2k2ngt {
 
@@ -34,6 +36,12 @@ struct Units {
   bool IsStated = false;  // and no default
 };
 
+/// A value that a row states and that goes nowhere.
+struct LostValue {
+  std::uint32_t Position;  // of the row in its block
+  Why Reason;
+};
+
 /// The source file as tables of row records, one for each table that the converter knows. The key
 /// of a record is its row's position in its block, from 1; a second block of the same table writes
 /// over the rows of the same positions and leaves the rest.
@@ -53,8 +61,15 @@ class CModel {
   const ActiveDegreesOfFreedom& Freedom() const { return m_ActiveDegreesOfFreedom; }
   const Units& CurrentUnits() const { return m_Units; }
 
-  /// True when an account of the rows is kept, for which some more of their keys are read.
+  /// True when an account of the rows is kept, for which all of their keys are looked at.
   bool IsAccountedFor = false;
+  /// What is lost with the rows of the block that was stored last; of an account.
+  std::vector<LostValue> LostValues;
+  void TakeLost(std::uint32_t position, const std::vector<Why>& whys) {
+    for (const Why why : whys) {
+      LostValues.push_back({position, why});
+    }
+  }
 
   /// The bytes of the texts of the records.
   TextStore& Texts() { return m_Texts; }
@@ -97,6 +112,7 @@ std::optional<Refusal> StoreRowsUnless(TableRows rows, CModel& model, Refuse ref
       return Refusal{row.Line, std::move(*reason)};
     }
     records.Insert(++position, record);
+    model.TakeLost(position, reader.Lost());
   }
   model.CountRows(rows.size());
   return std::nullopt;

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "account/reasons.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "source/lost_values.h"
 #include "source/str_parser.h"
 
 #include <array>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -67,6 +70,14 @@ struct Noted {
 template <class Record, class Field>
 Noted(const char*, Field Record::*) -> Noted<Record, Field>;
 
+/// A key of which the conversion has no use and whose value is lost, as the account tells, unless
+/// it is the neutral one: what the target takes anyway.
+struct LostUnless {
+  KeyName Name;
+  Text Neutral;
+  Why Reason;
+};
+
 /// A key whose value goes into a field. The field's type says how the value is read: a Text as it
 /// stands, a double as a number, an int32_t as a number without its fraction, a bool as true for
 /// "Yes" alone.
@@ -84,6 +95,8 @@ class RowKey {
   constexpr RowKey(States<Record> key)
       : m_Name(key.Name), m_Kind(Kind::Stated), m_Flag(key.Target) {}
   constexpr RowKey(Unread key) : m_Name(key.Name), m_Kind(Kind::Unread) {}
+  constexpr RowKey(LostUnless key)
+      : m_Name(key.Name), m_Kind(Kind::Lost), m_Neutral(key.Neutral), m_Why(key.Reason) {}
   template <class Field>
   constexpr RowKey(Noted<Record, Field> key) : RowKey(key.Name, key.Target) {
     m_IsConverted = false;
@@ -96,19 +109,26 @@ class RowKey {
       : m_Name(key.m_Name),
         m_Kind(static_cast<Kind>(key.m_Kind)),
         m_IsConverted(key.m_IsConverted),
+        m_Neutral(key.m_Neutral),
+        m_Why(key.m_Why),
         m_Text(key.m_Text),
         m_Real(key.m_Real),
         m_Integer(key.m_Integer),
         m_Flag(key.m_Flag) {}
 
   constexpr Text Name() const { return m_Name; }
-  constexpr bool IsRead() const { return m_Kind != Kind::Unread; }
+  constexpr bool IsStored() const { return m_Kind != Kind::Unread && m_Kind != Kind::Lost; }
   constexpr bool IsText() const { return m_Kind == Kind::Word; }
 
   /// What a record has of a key that is a text.
   Text TextOf(const Record& record) const { return record.*m_Text; }
   /// Whether the conversion has a use for it.
-  constexpr bool IsConverted() const { return IsRead() && m_IsConverted; }
+  constexpr bool IsConverted() const { return IsStored() && m_IsConverted; }
+  constexpr bool IsLost() const { return m_Kind == Kind::Lost; }
+  /// Why this value of a key that is lost is to be told; nothing for the neutral one.
+  std::optional<Why> WhyLost(Text value) const {
+    return SaysNoMoreThan(m_Neutral, value) ? std::nullopt : std::optional(m_Why);
+  }
 
   /// Puts the value that a row states for the key into its field.
   void Store(Text value, TextStore& store, Record& record) const {
@@ -129,6 +149,7 @@ class RowKey {
         Set(record, m_Flag, true);
         break;
       case Kind::Unread:
+      case Kind::Lost:
         break;
     }
   }
@@ -137,7 +158,7 @@ class RowKey {
   template <class AnyRecord>
   friend class RowKey;
 
-  enum class Kind : std::uint8_t { Word, Real, Integer, YesNo, Stated, Unread };
+  enum class Kind : std::uint8_t { Word, Real, Integer, YesNo, Stated, Unread, Lost };
 
   template <class Field>
   static void Set(Record& record, Field Record::*field, Field value) {
@@ -150,6 +171,8 @@ class RowKey {
   Text m_Name;
   Kind m_Kind;
   bool m_IsConverted = true;
+  Text m_Neutral;
+  Why m_Why = "value-of-unknown-name";  // of a key that is lost
   // The field, under its type.
   Text Record::*m_Text = nullptr;
   double Record::*m_Real = nullptr;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "account/reasons.h"
 #include "common/text.h"
+#include "source/lost_values.h"
 #include "source/row_grammar.h"
 #include "source/row_pairs.h"
 
@@ -9,6 +11,7 @@
 #include <cstdint>
 #include <cstring>
 #include <iterator>
+#include <optional>
 #include <type_traits>
 #include <vector>
 
@@ -26,38 +29,52 @@ namespace s2k2ngt {
 template <class Record>
 class RowReader {
  public:
-  /// The rows must outlive the reader, and `texts` the records. Keys that the account alone has a
-  /// use for are read when there is one.
-  explicit RowReader(TextStore& texts, bool readsNotedKeys = false)
-      : m_Texts(texts), m_Keys(readsNotedKeys ? kReadKeys : kConvertedKeys) {}
+  /// The rows must outlive the reader, and `texts` the records. What the account alone has a use
+  /// for is read when there is one.
+  explicit RowReader(TextStore& texts, bool isAccountedFor = false)
+      : m_Texts(texts), m_Keys(isAccountedFor ? kNotedKeys : kConvertedKeys) {}
 
   Record Read([[maybe_unused]] Text row) {
     static_assert(!std::is_same_v<decltype(kRowKeys<Record>), const NoKeysAreDeclared>,
                   "declare the record's keys beside it, in a kRowKeys");
     Record record;
     if constexpr (!std::is_empty_v<Record>) {
+      m_Lost.clear();
       KeySet wanted = m_Keys;
       RowPairs pairs(row);
       for (std::size_t column = 0; wanted != 0 && pairs.Next(); ++column) {
         for (KeySet met = wanted & KeysOf(pairs.Word(), column); met != 0; met &= met - 1) {
           const auto key = static_cast<std::size_t>(std::countr_zero(met));
+          if (key == kUnknown) {
+            TakeUnknown(pairs.Word(), pairs.Value());
+            break;
+          }
           std::data(kRowKeys<Record>)[key].Store(pairs.Value(), m_Texts, record);
           wanted ^= KeySet{1} << key;
+          if ((kLostKeys >> key & 1U) != 0) {
+            TakeLost(std::data(kRowKeys<Record>)[key], pairs.Value());
+          }
         }
       }
     }
     return record;
   }
 
+  /// Why values of the row that was read last are lost. Of an account alone.
+  const std::vector<Why>& Lost() const { return m_Lost; }
+
  private:
   using KeySet = std::uint64_t;  // a bit for each of kRowKeys
+
+  /// Stands for a word that ends in none of the keys, of which a row may have any number.
+  static constexpr std::size_t kUnknown = 63;
 
   struct Column {
     Text Word;
     KeySet Keys = 0;
   };
 
-  static_assert(std::size(kRowKeys<Record>) <= 64);
+  static_assert(std::size(kRowKeys<Record>) <= kUnknown);
   template <bool (RowKey<Record>::*IsWanted)() const>
   static constexpr KeySet KeysThat() {
     KeySet keys = 0;
@@ -68,10 +85,12 @@ class RowReader {
     }
     return keys;
   }
-  static constexpr KeySet kReadKeys = KeysThat<&RowKey<Record>::IsRead>();
+  static constexpr KeySet kLostKeys = KeysThat<&RowKey<Record>::IsLost>();
+  static constexpr KeySet kNotedKeys =
+      KeysThat<&RowKey<Record>::IsStored>() | kLostKeys | KeySet{1} << kUnknown;
   static constexpr KeySet kConvertedKeys = KeysThat<&RowKey<Record>::IsConverted>();
 
-  /// The keys in which the word ends.
+  /// The keys in which the word ends, or that for none.
   static KeySet KeysIn(Text word) {
     KeySet keys = 0;
     KeySet key = 1;
@@ -79,7 +98,18 @@ class RowReader {
       keys |= word.ends_with(known.Name()) ? key : 0;
       key <<= 1;
     }
-    return keys;
+    return keys != 0 ? keys : KeySet{1} << kUnknown;
+  }
+
+  void TakeLost(const RowKey<Record>& key, Text value) {
+    if (const std::optional<Why> why = key.WhyLost(value)) {
+      m_Lost.push_back(*why);
+    }
+  }
+  void TakeUnknown(Text name, Text value) {
+    if (!IsOfNoConsequence(name, value)) {
+      m_Lost.push_back("value-of-unknown-name");
+    }
   }
 
   KeySet KeysOf(Text word, std::size_t column) {
@@ -127,6 +157,7 @@ class RowReader {
   TextStore& m_Texts;
   KeySet m_Keys;
   std::vector<Column> m_Columns;
+  std::vector<Why> m_Lost;
 };
 
 }  // namespace s2k2ngt

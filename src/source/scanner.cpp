@@ -80,6 +80,7 @@ int TableScanner::Read() {
         state = State::BetweenBlocks;
         break;
       case State::FileEnded:
+        PassOverRest();
         return kConverted;
       case State::Refused:
         return kFailed;
@@ -104,6 +105,7 @@ TableScanner::State TableScanner::FindBlock() {
     const std::string line = ToUpper(m_Lines.Line());
     ++m_LineCounter;
     if (line.starts_with("END")) {
+      m_HasEnd = true;
       return State::FileEnded;
     }
     if (line.starts_with("FILE")) {
@@ -135,6 +137,9 @@ TableScanner::State TableScanner::TakeForeignLine(bool isOlderFormat, bool isNew
     return isNew ? Refuse("the line is neither a table's title nor the end of the file")
                  : RefuseEndlessText();
   }
+  if (isNew) {
+    m_Sink.PassOver(m_Lines.LineNumber());
+  }
   m_Messages.Show("IDS_S2KV8_DATA_Not_Convert");
   return State::BetweenBlocks;
 }
@@ -157,6 +162,7 @@ TableScanner::State TableScanner::ReadBlock() {
     }
     ++m_LineCounter;
     if (line.starts_with("END") || line.starts_with("FILE")) {
+      m_HasEnd = m_HasEnd || line.starts_with("END");
       return State::BlockEnded;
     }
     if (line.starts_with("TABLE")) {
@@ -194,6 +200,17 @@ void TableScanner::LoseRows(RowsLost how) {
   }
   if (!m_Rows.empty()) {
     m_Sink.LoseRows(CurrentBlock(), how);
+  }
+}
+
+/// Tells of what stands behind the lines by which the scan has ended.
+void TableScanner::PassOverRest() {
+  while (m_Lines.Next()) {
+    if (ToUpper(m_Lines.Line().substr(0, 3)) == "END") {
+      m_HasEnd = true;
+    } else if (m_Lines.Length() >= kShortBetweenBlocks) {
+      m_Sink.PassOver(m_Lines.LineNumber());
+    }
   }
 }
 

@@ -22,6 +22,8 @@ class TableSink {
   virtual bool DispatchRows(const TableBlock& block) = 0;
   /// Tells of rows that were read and that no block brings.
   virtual void LoseRows(const TableBlock& /*block*/, RowsLost /*how*/) {}
+  /// Tells of a line that is read as no part of a table, before the end of the scan or behind it.
+  virtual void PassOver(std::uint64_t /*line*/) {}
 
  protected:
   TableSink() = default;
@@ -51,6 +53,8 @@ class TableScanner {
   std::uint64_t LineNumber() const { return m_Lines.LineNumber(); }
   const std::string& Title() const { return m_Title; }
   const std::string& Reason() const { return m_Reason; }
+  /// False when the lines ran out without one that begins with END.
+  bool HasEnd() const { return m_HasEnd; }
 
  private:
   enum class State { BetweenBlocks, BlockFound, BlockEnded, FileEnded, Refused, Stopped };
@@ -64,6 +68,7 @@ class TableScanner {
   void AddLineToRow(Text line);
   TableBlock CurrentBlock() const;
   void LoseRows(RowsLost how);
+  void PassOverRest();
 
   LineReader m_Lines;
   Messages& m_Messages;
@@ -82,6 +87,7 @@ class TableScanner {
   std::string m_PendingText;  // the row whose end is not read yet
   std::uint64_t m_PendingLine = 0;
   bool m_RowGoesOn = false;
+  bool m_HasEnd = false;
   std::string m_Reason;
 };
 

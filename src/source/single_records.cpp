@@ -14,17 +14,25 @@ Text FirstRow(TableRows rows) {
   return rows.front().Content;
 }
 
+template <class Record>
+Record ReadFirst(TableRows rows, CModel& model) {
+  RowReader<Record> reader(model.Texts(), model.IsAccountedFor);
+  const Record record = reader.Read(FirstRow(rows));
+  model.TakeLost(1, reader.Lost());
+  return record;
+}
+
 }  // namespace
 
 std::optional<Refusal> StoreActiveDegreesOfFreedom(TableRows rows, CModel& model,
                                                    Messages& /*shown*/) {
-  model.Set(RowReader<ActiveDegreesOfFreedom>(model.Texts()).Read(FirstRow(rows)));
+  model.Set(ReadFirst<ActiveDegreesOfFreedom>(rows, model));
   model.CountRows(1);
   return std::nullopt;
 }
 
 std::optional<Refusal> StoreCoordinateSystem(TableRows rows, CModel& model, Messages& shown) {
-  const auto system = RowReader<CoordinateSystem>(model.Texts()).Read(FirstRow(rows));
+  const auto system = ReadFirst<CoordinateSystem>(rows, model);
   if (system.Type != "Cartesian") {
     shown.Show("IDS_S2KV8_NODE_NOT_Cylindrical");
     return Refusal{rows.front().Line, "the first coordinate system has Type=" +

@@ -18,7 +18,14 @@ struct CoordinateSystem {
 
 template <>
 inline constexpr RowKey<CoordinateSystem> kRowKeys<CoordinateSystem>[] = {
-    {"Type=", &CoordinateSystem::Type}};
+    Unread{"Name="},
+    {"Type=", &CoordinateSystem::Type},
+    LostUnless{"X=", "0", "coordinate-system-moved"},
+    LostUnless{"Y=", "0", "coordinate-system-moved"},
+    LostUnless{"Z=", "0", "coordinate-system-moved"},
+    LostUnless{"AboutZ=", "0", "coordinate-system-moved"},
+    LostUnless{"AboutY=", "0", "coordinate-system-moved"},
+    LostUnless{"AboutX=", "0", "coordinate-system-moved"}};
 
 /// Force, length and temperature as a list.
 inline constexpr KeyName kUnitsKey = "CurrUnits=";

@@ -40,14 +40,14 @@ TEST(AccountOfCasesTest, AStaticCaseOfSeveralLoadsIsChanged) {
       KeepAccount(SourceTable("ANALYSIS CASE DEFINITIONS", "   Case=ALL   Type=LinStatic\n") +
                   SourceTable("CASE - STATIC 1 - LOAD ASSIGNMENTS",
                               "   Case=ALL   LoadName=DEAD\n   Case=ALL   LoadName=LIVE\n"));
-  EXPECT_THAT(run.LossesIn("ANALYSIS"), ElementsAre("Case=ALL: static-case-of-several-loads"));
+  EXPECT_THAT(run.LossesIn("ANALYSIS"), ElementsAre("Case=ALL: case-of-several-loads"));
 }
 
 TEST(AccountOfCasesTest, AStaticCaseThatItsLoadGivesTheNameIsReworded) {
   const AccountRun run = KeepAccount(
       SourceTable("ANALYSIS CASE DEFINITIONS", "   Case=CASE1   Type=LinStatic\n") +
       SourceTable("CASE - STATIC 1 - LOAD ASSIGNMENTS", "   Case=CASE1   LoadName=DEAD\n"));
-  EXPECT_THAT(run.LossesIn("ANALYSIS"), ElementsAre("Case=CASE1: static-case-named-otherwise"));
+  EXPECT_THAT(run.LossesIn("ANALYSIS"), ElementsAre("Case=CASE1: case-of-another-name"));
 }
 
 TEST(AccountOfCasesTest, ACaseThatStartsFromAnotherIsChangedUnlessItIsAHistory) {

@@ -99,7 +99,7 @@ TEST(AccountOfFrameEndsTest, OfPartialFixityOfOneFrameASingleRowCounts) {
   const AccountRun run =
       KeepAccount(SoundFrames() + Releases("   Frame=1   M3J=Yes   PartialFix=Yes\n") +
                   PartialFixity("   Frame=1   M3J=0\n   Frame=1   M3J=1\n"));
-  EXPECT_THAT(run.Losses(), ElementsAre("Frame=1: frame-stated-twice"));
+  EXPECT_THAT(run.Losses(), ElementsAre("Frame=1: row-of-same-name"));
   ASSERT_EQ(run.Rows.Losses.size(), 1U);
   EXPECT_EQ(run.Rows.Losses[0].Position, 1U);
 }
@@ -146,14 +146,14 @@ TEST(AccountOfFrameEndsTest, EndLengthsOfAFrameWithAJointOffsetAreDropped) {
 
 TEST(AccountOfFrameEndsTest, AJointOffsetInLocalDirectionsIsChanged) {
   EXPECT_THAT(LossesOfFrames(InsertionPoints("   Frame=1   CoordSys=Local   JtOffsetYI=0.1\n")),
-              ElementsAre("Frame=1: joint-offset-local"));
+              ElementsAre("Frame=1: joint-offset-not-global"));
 }
 
 TEST(AccountOfFrameEndsTest, AJointOffsetInASystemOfTheUsersIsChanged) {
   EXPECT_THAT(
       LossesOfFrames(InsertionPoints("   Frame=1   CoordSys=CSYS1   JtOffsetYI=0.1\n"
                                      "   Frame=2   CoordSys=Element   JtOffsetXI=0.1\n")),
-      ElementsAre("Frame=1: joint-offset-in-user-system", "Frame=2: coordinate-system-ignored"));
+      ElementsAre("Frame=1: joint-offset-not-global", "Frame=2: coordinate-system-ignored"));
 }
 
 TEST(AccountOfFrameEndsTest, OfJointOffsetsOfOneFrameTheLastCounts) {

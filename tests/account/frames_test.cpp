@@ -134,8 +134,7 @@ TEST(AccountOfFramesTest, OfAxesOfOneFrameASingleRowCounts) {
                   "   Frame=1   Angle=20   AdvanceAxes=Yes\n") +
       AdvancedAxes("   Frame=1   LocalPlan=12   PlOption1=\"Coord Dir\"   CoordDir1=Y\n"
                    "   Frame=1   LocalPlan=12   PlOption1=\"Coord Dir\"   CoordDir1=Z\n"));
-  EXPECT_THAT(run.Losses(),
-              ElementsAre("Frame=1: frame-stated-twice", "Frame=1: frame-stated-twice"));
+  EXPECT_THAT(run.Losses(), ElementsAre("Frame=1: row-of-same-name", "Frame=1: row-of-same-name"));
   ASSERT_EQ(run.Rows.Losses.size(), 2U);
   EXPECT_EQ(run.Rows.Losses[0].Position, 1U);
   EXPECT_EQ(run.Rows.Losses[1].Position, 1U);
@@ -225,9 +224,9 @@ TEST(AccountOfFrameLumpsTest, ASpringOfAnUnknownDirectionIsChanged) {
 
 TEST(AccountOfFrameLumpsTest, WhatIsSpreadAlongAnUnknownFrameIsChanged) {
   EXPECT_THAT(LossesOfFrames(Springs("   Frame=9   Dir=2   Stiffness=10\n")),
-              Contains("Frame=9: spread-along-another-frame"));
+              Contains("Frame=9: last-frame-for-unknown"));
   EXPECT_THAT(LossesOfFrames(Masses("   Frame=9   MassPerLen=2\n")),
-              ElementsAre("Frame=9: spread-along-another-frame"));
+              ElementsAre("Frame=9: last-frame-for-unknown"));
 }
 
 TEST(AccountOfFrameLumpsTest, WhatIsSpreadAlongAFrameWithoutLengthIsChanged) {

@@ -128,9 +128,9 @@ TEST(AccountOfLinkProperties, TheEffectiveDampingOfALinearDirectionIsChanged) {
 
 TEST(AccountOfLinkProperties, YieldValuesOfIsolatorsInDirectionU3AreChanged) {
   const std::string rows =
-      "   Link=D   DOF=U1   NonLinear=Yes   TransK=90   TransYield=5   Ratio=0.1\n"
-      "   Link=D   DOF=U2   NonLinear=Yes   TransK=90   TransYield=5   Ratio=0.1\n"
-      "   Link=D   DOF=U3   NonLinear=Yes   TransK=90   TransYield=5   Ratio=0.1\n";
+      "   Link=D   DOF=U1   NonLinear=Yes   TransK=90\n"
+      "   Link=D   DOF=U2   NonLinear=Yes   TransK=90\n"
+      "   Link=D   DOF=U3   NonLinear=Yes   TransK=90\n";
   for (const Kind& kind : {kRubber, kSlider}) {
     SCOPED_TRACE(kind.LinkType);
     const AccountRun run = KeepAccountOfKind(kind, rows);

@@ -88,6 +88,13 @@ TEST(AccountOfSpectrumTest, ALastLoadInAUsersSystemTakesTheOneBeforeAlong) {
               ElementsAre("Case=B: lost-with-next-row", "Case=L: spectrum-load-not-global"));
 }
 
+TEST(AccountOfSpectrumTest, ALoadBesideALostOneOfItsCaseIsConverted) {
+  EXPECT_THAT(
+      LossesOfLoads(LoadOf("A") + "   Case=A   LoadName=U2   CoordSys=CSYS1   Function=SITE\n" +
+                    LoadOf("B")),
+      ElementsAre("Case=A: spectrum-load-not-global", "Case=B: spectrum-case-numbered"));
+}
+
 TEST(AccountOfSpectrumTest, LoadsInUsersSystemsAloneAreDropped) {
   EXPECT_THAT(LossesOfLoads("   Case=L   LoadName=U1   CoordSys=CSYS1   Function=SITE\n"),
               ElementsAre("Case=L: spectrum-load-not-global"));

@@ -133,6 +133,51 @@ TEST(AccountOfTablesTest, RowsAboveTheEndOfAFileWithoutEndAreTold) {
   EXPECT_STREQ(run.Rows.Tables[0].Reasons[0].Why->Code, "run-ended");
 }
 
+// ---- What stands in no table ----
+
+TEST(AccountOfNoTable, RowsBeforeTheFirstTitleAreNotLookedAt) {
+  const AccountRun run =
+      KeepAccountOfBytes("File model.s2k\n   Joint=1   XorR=2\n   Joint=2   XorR=3\n\n" +
+                         Joints("   Joint=3\n") + "END TABLE DATA\n");
+  EXPECT_THAT(run.Tables(), ElementsAre("(outside of the tables): 2 rows, 2 not looked at",
+                                        "JOINT COORDINATES: 1 rows, 1 converted"));
+  EXPECT_STREQ(run.Rows.Tables[0].Reasons[0].Why->Code, "outside-of-tables");
+  EXPECT_EQ(run.Rows.Tables[0].Line, 2U);
+  EXPECT_TRUE(run.Rows.HasLoss());
+}
+
+TEST(AccountOfNoTable, RowsBehindTheEndAreNotLookedAt) {
+  const AccountRun run = KeepAccountOfBytes(Joints("   Joint=1\n") + "END TABLE DATA\n\n" +
+                                            Joints("   Joint=2\n   Joint=3\n"));
+  // The title is one of the lines.
+  EXPECT_THAT(run.Tables(), ElementsAre("JOINT COORDINATES: 1 rows, 1 converted",
+                                        "(outside of the tables): 3 rows, 3 not looked at"));
+  EXPECT_EQ(run.Rows.Tables[1].Line, 6U);
+}
+
+TEST(AccountOfNoTable, RowsBehindAsManyEmptyLinesAsEndAFileAreNotLookedAt) {
+  const AccountRun run = KeepAccountOfBytes(Joints("   Joint=1\n") + std::string(12, '\n') +
+                                            Joints("   Joint=2\n") + "END TABLE DATA\n");
+  EXPECT_THAT(run.Tables(), ElementsAre("JOINT COORDINATES: 1 rows, 1 converted",
+                                        "(outside of the tables): 2 rows, 2 not looked at"));
+}
+
+TEST(AccountOfNoTable, AFileThatDoesNotStateItsEndMayBeCutOff) {
+  for (const std::string& bytes : {Joints("   Joint=1\n"), std::string(), std::string("\n\n")}) {
+    const AccountRun run = KeepAccountOfBytes(bytes);
+    EXPECT_EQ(run.Run.Result, s2k2ngt::kConverted);
+    EXPECT_EQ(run.Tables().back(), "(end of the file): 1 rows, 1 not looked at");
+    EXPECT_STREQ(run.Rows.Tables.back().Reasons[0].Why->Code, "end-missing");
+    EXPECT_TRUE(run.Rows.HasLoss());
+  }
+}
+
+TEST(AccountOfNoTable, AnEndRightBehindTheRowsIsOne) {
+  const AccountRun run = KeepAccountOfBytes(
+      "TABLE:  \"JOINT COORDINATES\"\n   Joint=1\nEND TABLE DATA\n\n\n\n\n\n\n\n\n\n\n\n\n\n");
+  EXPECT_THAT(run.Tables(), ElementsAre("JOINT COORDINATES: 1 rows, 1 converted"));
+}
+
 TEST(ReasonsTest, CodesAreWordsInSmallLettersAndAllDifferent) {
   std::vector<std::string> codes;
   for (const s2k2ngt::Reason& reason : s2k2ngt::Reasons()) {

@@ -77,7 +77,8 @@ TEST(SourceTablesPage, TellsWhatBecomesOfATable) {
         "| `FUNCTION` | `NEHRP97` | refused with `IDS_S2KV8_RESP_NHERP97_Not_Convert` |  | Name, "
         "Period, Accel, SDS, SD1 |\n",
         "| `AREA` | `PORE` | refused with `IDS_S2KV8_AREA_PrPrsr_Not_Convert` |  |  |\n",
-        "| `GRID` |  | ignored |  |  |\n", "| `COORDINATE` |  | checked | Type |  |\n",
+        "| `GRID` |  | ignored |  |  |\n",
+        "| `COORDINATE` |  | checked | Type | Name, X, Y, Z, AboutZ, AboutY, AboutX |\n",
         "| `JOINT` | `COORDINATES` | used in part | Joint, CoordType, XorR, Y, Z, "
         "SpecialJt, GlobalX, GlobalY, GlobalZ | CoordSys, T |\n",
         "| `AUTO` | `SEISMIC - UBC97 ISOLATED` | never met: see above |  |  |\n"}) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -94,6 +95,48 @@ TEST_F(RowReaderOfWords, FindsWhatASearchFindsInAnyRow) {
     }
     ExpectWhatASearchFinds(row);
   }
+}
+
+/// A row of keys that are lost.
+struct LossyRow {
+  Text Joint;
+};
+
+}  // namespace
+
+template <>
+inline constexpr RowKey<LossyRow> kRowKeys<LossyRow>[] = {
+    {"Joint=", &LossyRow::Joint},
+    LostUnless{"Fixed=", "No", "link-direction-fixed"},
+    LostUnless{"Mass=", "0", "mass-of-link"}};
+
+namespace {
+
+class RowReaderOfLossyRows : public testing::Test {
+ protected:
+  std::vector<Why> LostWith(Text row, bool isAccountedFor = true) {
+    TextStore texts;
+    RowReader<LossyRow> reader(texts, isAccountedFor);
+    reader.Read("Joint=1   Fixed=Yes");
+    reader.Read(row);
+    return reader.Lost();
+  }
+};
+
+TEST_F(RowReaderOfLossyRows, TellsWhatIsLostWithTheLastRow) {
+  const Why fixed = "link-direction-fixed";
+  const Why mass = "mass-of-link";
+  const Why unknown = "value-of-unknown-name";
+  EXPECT_EQ(LostWith("Joint=2   Fixed=Yes"), std::vector<Why>{fixed});
+  EXPECT_EQ(LostWith("Mass=3   Joint=2   Fixed=Yes"), (std::vector<Why>{mass, fixed}));
+  EXPECT_EQ(LostWith("Joint=2   Fixed=no   Mass=0.0"), std::vector<Why>{});
+  EXPECT_EQ(LostWith("Joint=2   Fixed=   Mass="), std::vector<Why>{});
+  EXPECT_EQ(LostWith("Joint=2   Gap=3   Fixed=Yes"), (std::vector<Why>{unknown, fixed}));
+  EXPECT_EQ(LostWith(""), std::vector<Why>{});
+}
+
+TEST_F(RowReaderOfLossyRows, LooksForNothingWithoutAnAccount) {
+  EXPECT_EQ(LostWith("Joint=2   Gap=3   Fixed=Yes   Mass=3", false), std::vector<Why>{});
 }
 
 }  // namespace

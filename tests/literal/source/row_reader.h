@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <type_traits>
+#include <vector>
 
 // The reading of a row as its rules say it: for every key the row is searched from its beginning.
 
@@ -15,14 +16,14 @@ namespace s2k2ngt {
 template <class Record>
 class RowReader {
  public:
-  explicit RowReader(TextStore& texts, bool readsNotedKeys = false)
-      : m_Texts(texts), m_ReadsNotedKeys(readsNotedKeys) {}
+  explicit RowReader(TextStore& texts, bool isAccountedFor = false)
+      : m_Texts(texts), m_IsAccountedFor(isAccountedFor) {}
 
   Record Read([[maybe_unused]] Text row) {
     Record record;
     if constexpr (!std::is_empty_v<Record>) {
       for (const RowKey<Record>& key : kRowKeys<Record>) {
-        if (!(m_ReadsNotedKeys ? key.IsRead() : key.IsConverted())) {
+        if (!(m_IsAccountedFor ? key.IsStored() : key.IsConverted())) {
           continue;
         }
         if (const std::optional<Text> value = ValueInRow(row, key.Name())) {
@@ -33,9 +34,13 @@ class RowReader {
     return record;
   }
 
+  /// Nothing: what is lost with a row is told by its reader alone.
+  const std::vector<Why>& Lost() const { return m_Lost; }
+
  private:
   [[maybe_unused]] TextStore& m_Texts;
-  [[maybe_unused]] bool m_ReadsNotedKeys;
+  [[maybe_unused]] bool m_IsAccountedFor;
+  std::vector<Why> m_Lost;
 };
 
 }  // namespace s2k2ngt
