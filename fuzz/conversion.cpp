@@ -1,5 +1,6 @@
 // Whole conversions: a file of any bytes in, a whole output, a result that says why there is none,
-// or one of the documented exceptions out, in bounded time.
+// or one of the documented exceptions out, in bounded time. The same again with an account, in
+// which every row has one fate.
 #include "target.h"
 
 #include <s2k2ngt/converter.h>
@@ -9,6 +10,8 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <iterator>
+#include <numeric>
 #include <string>
 
 namespace {
@@ -29,6 +32,35 @@ void CheckOutput(const std::string& output) {
   Require(output.ends_with("*ENDDATA"), "an output without an end");
 }
 
+std::uint64_t RowsOfAllFates(const s2k2ngt::TableAccount& table) {
+  return std::accumulate(std::begin(table.ByFate), std::end(table.ByFate), std::uint64_t{0});
+}
+
+/// A dry run with an account must end as the run before did.
+void CheckAccount(const std::string& input, const s2k2ngt::Diagnostic& before, int resultBefore) {
+  CheckingPlatform platform;
+  s2k2ngt::CConverter converter(platform);
+  s2k2ngt::RunOptions options;
+  options.WritesOutput = false;
+  options.KeepsAccount = true;
+  int result = s2k2ngt::kFailed;
+  try {
+    result = converter.Run(input.c_str(), options);
+  } catch (const s2k2ngt::InvalidArgumentException&) {
+  }
+  Require(result == resultBefore, "another result with an account");
+  Require(converter.Failure().Reason == before.Reason, "another reason with an account");
+  for (const s2k2ngt::TableAccount& table : converter.AccountOfRows().Tables) {
+    Require(RowsOfAllFates(table) == table.Rows, "rows without a fate in " + table.Title);
+  }
+  const s2k2ngt::Drawing drawing = converter.DrawingOfModel();
+  for (const s2k2ngt::DrawnElement& element : drawing.Elements) {
+    for (const std::uint32_t node : element.Nodes) {
+      Require(node < drawing.Nodes.size(), "an element of a node that is not there");
+    }
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -39,8 +71,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckingPlatform platform;
   s2k2ngt::CConverter converter(platform);
   const auto begin = std::chrono::steady_clock::now();
+  int result = s2k2ngt::kFailed;
   try {
-    const int result = converter.Run(input.c_str());
+    result = converter.Run(input.c_str());
     if (result == s2k2ngt::kConverted) {
       CheckOutput(ReadFile(output));
     } else {
@@ -51,6 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   } catch (const s2k2ngt::InvalidArgumentException& exception) {
     Require(converter.Failure().Reason == exception.what(), "another reason than the exception's");
   }
+  CheckAccount(input, converter.Failure(), result);
   Require(std::chrono::steady_clock::now() - begin < kLongestRun, "an endless run");
   return 0;
 }

@@ -21,15 +21,23 @@
 namespace {
 
 /// Where a run ended one of whose allocations failed; nothing when it came through. Every second
-/// time all allocations behind it fail too.
-std::optional<s2k2ngt::Diagnostic> RunWithFailure(const std::string& path, std::size_t allocation) {
+/// time all allocations behind it fail too. Where an account is kept it is made as well, and the
+/// drawing.
+std::optional<s2k2ngt::Diagnostic> RunWithFailure(const std::string& path, std::size_t allocation,
+                                                  bool keepsAccount = false) {
+  s2k2ngt::RunOptions options;
+  options.KeepsAccount = keepsAccount;
   std::optional<s2k2ngt::Diagnostic> failure;
   QuietPlatform platform;
   {
     s2k2ngt::CConverter converter(platform);
     FailAtAllocation(allocation, allocation % 2 == 0);
     try {
-      const int result = converter.Run(path.c_str());
+      const int result = converter.Run(path.c_str(), options);
+      if (keepsAccount) {
+        converter.AccountOfRows();
+        converter.DrawingOfModel();
+      }
       FailAtAllocation(0);
       EXPECT_EQ(result, s2k2ngt::kConverted);
     } catch (const s2k2ngt::MemoryException&) {
@@ -89,6 +97,21 @@ TEST_P(EveryAllocation, MayFailAndLeavesNothingBehind) {
       EXPECT_EQ(ReadFile(m_Output), m_Wanted);
     }
     ASSERT_FALSE(HasFailure());
+  }
+  EXPECT_GT(allocation, 100U);
+  EXPECT_EQ(ReadFile(m_Output), m_Wanted);
+}
+
+TEST_P(EveryAllocation, MayFailInARunThatKeepsAccount) {
+  EXPECT_FALSE(RunWithFailure(m_Path, 0, true).has_value());
+  std::size_t allocation = 1;
+  for (;; ++allocation) {
+    SCOPED_TRACE(allocation);
+    const LivingMemory livingBefore = CountLivingMemory();
+    if (!RunWithFailure(m_Path, allocation, true)) {
+      break;
+    }
+    ASSERT_EQ(CountLivingMemory(), livingBefore);
   }
   EXPECT_GT(allocation, 100U);
   EXPECT_EQ(ReadFile(m_Output), m_Wanted);

@@ -122,6 +122,7 @@ std::vector<std::string> ConversionRun::LoadLines(std::string_view loadCase,
 namespace {
 
 /// Leaves the input in the folder that the environment names, for other builds to be compared with.
+/// What is run with an account is run without one as well.
 void KeepInput(const std::string& bytes) {
   const char* const folder = std::getenv("S2K2NGT_KEEP_INPUTS");
   if (folder != nullptr) {
@@ -133,7 +134,9 @@ void KeepInput(const std::string& bytes) {
 }  // namespace
 
 ConversionRun ConvertBytes(const std::string& bytes, s2k2ngt::Account* account) {
-  KeepInput(bytes);
+  if (account == nullptr) {
+    KeepInput(bytes);
+  }
   const TemporaryFolder folder;
   const std::string path = folder.FileName("model.s2k");
   WriteFile(path, bytes);
