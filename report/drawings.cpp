@@ -291,6 +291,18 @@ std::string LegendOf(const Drawing& drawing, const std::vector<Shape>& shapes,
   return "<ul class=\"legend\">\n" + legend + "</ul>\n";
 }
 
+/// How many elements are not drawn for want of a joint.
+std::string NoteOfLeftOut(const Drawing& drawing) {
+  const auto leftOut = std::ranges::count_if(
+      drawing.Elements, [](const s2k2ngt::DrawnElement& element) { return element.Nodes.empty(); });
+  return leftOut == 0 ? ""
+                      : "<p class=\"note\">" +
+                            Drawn(CountOf(leftOut), "left-out",
+                                  "element is not drawn: a joint of it is not there.",
+                                  "elements are not drawn: of each a joint is not there.") +
+                            "</p>\n";
+}
+
 std::string NotesOf(const Drawing& drawing, const std::vector<Mark>& marks) {
   std::string notes;
   if (!marks.empty()) {
@@ -306,7 +318,7 @@ std::string NotesOf(const Drawing& drawing, const std::vector<Mark>& marks) {
     notes += "<p class=\"note\">" + Drawn(CountOf(far), "far", "joint lies", "joints lie") +
              " too far away to be drawn, or nowhere.</p>\n";
   }
-  return notes;
+  return notes + NoteOfLeftOut(drawing);
 }
 
 }  // namespace
@@ -314,7 +326,7 @@ std::string NotesOf(const Drawing& drawing, const std::vector<Mark>& marks) {
 std::string DrawingsOf(const Drawing& drawing, const Account& account) {
   const std::vector<Shape> shapes = ShapesOf(drawing);
   if (shapes.empty()) {
-    return {};
+    return NoteOfLeftOut(drawing);
   }
   const std::vector<Mark> marks = MarksOf(drawing, account);
   std::string html =

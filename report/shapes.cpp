@@ -34,8 +34,9 @@ constexpr std::array<Face, 5> kFacesOfSix = {
 
 void AppendShapes(const Drawing& drawing, std::uint32_t number, std::vector<Shape>& shapes) {
   const DrawnElement& element = drawing.Elements[number];
-  if (!std::ranges::all_of(element.Nodes,
-                           [&](std::uint32_t node) { return IsDrawable(drawing.Nodes[node]); })) {
+  if (element.Nodes.empty() || !std::ranges::all_of(element.Nodes, [&](std::uint32_t node) {
+        return IsDrawable(drawing.Nodes[node]);
+      })) {
     return;
   }
   Shape shape{.Kind = element.Kind, .Element = number};

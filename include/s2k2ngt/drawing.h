@@ -6,7 +6,7 @@
 
 namespace s2k2ngt {
 
-// The converted model as far as it can be drawn.
+// The converted model by its nodes and elements, for drawings and for the numbers that it has.
 
 struct DrawnNode {
   int Number = 0;     ///< in the output
@@ -30,7 +30,8 @@ struct DrawnElement {
   int Number = 0;     ///< in the output; 0 of links, which have none
   std::string Label;  ///< in the source; empty for a rigid link
   /// Its nodes as positions in Drawing::Nodes, in the order of the output: 2 of a frame, 3 or 4 of
-  /// an area, 6 or 8 of a solid, 2 of a link. An element with a node that is not there is left out.
+  /// an area, 6 or 8 of a solid, 2 of a link. Empty when one of them is not there, so that the
+  /// element cannot be drawn.
   std::vector<std::uint32_t> Nodes;
 };
 

@@ -101,7 +101,8 @@ void DrawingMaker::Add(ElementKind kind, std::int32_t number, Text label, Number
   for (const std::int32_t node : nodes) {
     const auto found = m_PositionOfNode.find(node);
     if (found == m_PositionOfNode.end()) {
-      return;
+      element.Nodes.clear();
+      break;
     }
     element.Nodes.push_back(found->second);
   }
@@ -131,10 +132,8 @@ void DrawingMaker::TakeAreas() {
       corners.push_back(corner(2));
     }
     std::erase(corners, 0);
-    if (corners.size() >= 3) {
-      Add(ElementKind::Area, m_Run.Elements.NumberOf(before + key, area.Label), area.Label,
-          corners);
-    }
+    Add(ElementKind::Area, m_Run.Elements.NumberOf(before + key, area.Label), area.Label,
+        corners.size() >= 3 ? Numbers(corners) : Numbers());
   }
 }
 

@@ -65,6 +65,20 @@ TEST_F(ReportsTest, NumbersOfLabelsStandInTheReport) {
             json({{{"label", "B"}, {"number", 1}}, {{"label", "A"}, {"number", 2}}}));
 }
 
+TEST_F(ReportsTest, NumbersOfElementsThatCannotBeDrawnStandInTheReportToo) {
+  Write("named.s2k", FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=1   XorR=0\n   Joint=2   "
+                              "XorR=4\n\n"
+                              "TABLE:  \"CONNECTIVITY - FRAME\"\n"
+                              "   Frame=A   JointI=1   JointJ=7\n"
+                              "   Frame=B   JointI=1   JointJ=2\n"));
+  Call({"--report", "lost.json", "--report", "lost.html", "named.s2k"});
+  EXPECT_EQ(Report("lost.json")["files"][0]["numbers"]["elements"],
+            json({{{"kind", "frame"}, {"label", "A"}, {"number", 1}},
+                  {{"kind", "frame"}, {"label", "B"}, {"number", 2}}}));
+  EXPECT_THAT(Text("lost.html"),
+              HasSubstr("data-drawn=\"left-out\">1</span> element is not drawn"));
+}
+
 TEST_F(ReportsTest, APageIsWrittenWhereTheNameEndsInHtml) {
   Write("lossy.s2k", kLosses);
   Write("lost.html", "of an earlier call");

@@ -132,6 +132,30 @@ TEST(DrawingsTest, JointsThatLieNowhereAreLeftOutAndTold) {
   EXPECT_EQ(DrawingsOf(NodesAt({{1e30, 1e30, 1e30}}), {}), "");
 }
 
+TEST(DrawingsTest, ElementsWithoutNodesAreToldAndNotDrawn) {
+  Drawing drawing = NodesAt({{0, 0, 0}, {20, 0, 4}});
+  Add(ElementKind::Frame, {0, 1}, drawing);
+  Add(ElementKind::Frame, {}, drawing);
+  const std::string one = DrawingsOf(drawing, With({"Frame=2"}));
+  EXPECT_THAT(Paths(one, "frame"), ElementsAre("M24 224L1024 24"));
+  EXPECT_THAT(one, HasSubstr("<span class=\"n\" data-drawn=\"left-out\">1</span> element is not "
+                             "drawn: a joint of it is not there."));
+  EXPECT_EQ(Count(one, "<title>"), 0U);
+  Add(ElementKind::Solid, {}, drawing);
+  EXPECT_THAT(DrawingsOf(drawing, {}),
+              HasSubstr("data-drawn=\"left-out\">2</span> elements are not drawn"));
+  drawing.Elements.resize(1);
+  EXPECT_THAT(DrawingsOf(drawing, {}), Not(HasSubstr("left-out")));
+}
+
+TEST(DrawingsTest, WhereNoElementCanBeDrawnTheNoteStandsAlone) {
+  Drawing drawing;
+  Add(ElementKind::Frame, {}, drawing);
+  EXPECT_EQ(DrawingsOf(drawing, {}),
+            "<p class=\"note\"><span class=\"n\" data-drawn=\"left-out\">1</span> element is not "
+            "drawn: a joint of it is not there.</p>\n");
+}
+
 TEST(DrawingsTest, TheSmallestAndTheLargestModelsHavePictures) {
   for (const double size : {5e-324, 3e-320, 1e-300, 1e11, 1e12}) {
     SCOPED_TRACE(size);

@@ -204,13 +204,32 @@ TABLE:  "CONSTRAINT DEFINITIONS - WELD"
   EXPECT_THAT(Elements(drawing), ElementsAre("rigid link 0 : 3 1", "rigid link 0 : 3 2"));
 }
 
-TEST(DrawingOfModelTest, AnElementWithoutOneOfItsNodesIsLeftOut) {
+TEST(DrawingOfModelTest, AnElementWithoutOneOfItsNodesKeepsItsNumberAndHasNoNodes) {
   const Drawing drawing = Draw(Joints({"1", "2"}) + R"(
 TABLE:  "CONNECTIVITY - FRAME"
    Frame=1   JointI=1   JointJ=3
    Frame=2   JointI=1   JointJ=2
+
+TABLE:  "CONNECTIVITY - SOLID"
+   Solid=4   Joint1=1   Joint2=2   Joint3=3   Joint4=4   Joint5=5   Joint6=6   Joint7=7   Joint8=8
+
+TABLE:  "CONNECTIVITY - LINK"
+   Link=5   JointI=2   JointJ=3
+
+TABLE:  "SUMMARY - LINK ASSIGNMENTS"
+   Link=5   LinkType=Linear   LinkJoint=TwoJoint   LinkProp=P
 )");
-  EXPECT_THAT(Elements(drawing), ElementsAre("frame 2 2: 1 2"));
+  EXPECT_THAT(Elements(drawing),
+              ElementsAre("frame 1 1:", "frame 2 2: 1 2", "solid 4 4:", "link 0 5:"));
+}
+
+TEST(DrawingOfModelTest, AnAreaOfFewerThanThreeCornersKeepsItsNumberAndHasNoNodes) {
+  const Drawing drawing = Draw(Joints({"A", "B"}) + R"(
+TABLE:  "CONNECTIVITY - AREA"
+   Area=S   NumJoints=4   Joint1=A   Joint2=B   Joint3=C   Joint4=D
+   Area=T   NumJoints=3   Joint1=A   Joint2=B
+)");
+  EXPECT_THAT(Elements(drawing), ElementsAre("area 1 S:", "area 2 T:"));
 }
 
 // Runs
@@ -299,7 +318,7 @@ TEST(DrawingOfModelTest, ElementsOfAnyModelHaveNodesThatAreThere) {
     SCOPED_TRACE(seed);
     const Drawing drawing = DrawnRun(RandomModel(seed)).Model;
     for (const DrawnElement& element : drawing.Elements) {
-      EXPECT_GE(element.Nodes.size(), 2U);
+      EXPECT_NE(element.Nodes.size(), 1U);
       EXPECT_TRUE(std::ranges::all_of(
           element.Nodes, [&](std::uint32_t node) { return node < drawing.Nodes.size(); }));
     }
