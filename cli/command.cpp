@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <iostream>
+#include <new>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -56,8 +57,16 @@ int ConvertFiles(const CommandOptions& options) {
                 file.Output + ": found unfinished, as a call leaves it that is stopped or killed");
     }
   }
-  const std::vector<FileResult> results =
-      options.Jobs > 0 ? ConvertInWorkers(files, options) : ConvertOneByOne(files, options);
+  std::vector<FileResult> results;
+  try {
+    results = options.Jobs > 0 ? ConvertInWorkers(files, options) : ConvertOneByOne(files, options);
+  } catch (const std::bad_alloc&) {
+    if (options.Reports.empty()) {
+      throw;
+    }
+    TellNoMemoryForReports(options);
+    return kOneFailed;
+  }
   const int status = StatusOf(results, options);
   if (files.size() > 1 && (!options.Quiet || status == kOneFailed || status == kOneLost)) {
     PrintSummary(std::cerr, files, results, options);

@@ -2,7 +2,6 @@
 
 #include "account_lines.h"
 #include "common/files.h"
-#include "drawings.h"
 #include "platform/terminal/terminal_platform.h"
 
 #include <array>
@@ -79,12 +78,20 @@ std::optional<std::string> WhyNotConverted(const FileToConvert& file,
   return std::nullopt;
 }
 
+std::string LeftUnfinished(const std::string& output) { return output + " is left unfinished"; }
+
+/// A failure in a line for people. That of a process which was killed names its output already.
+std::string LineOfFailure(const FileFacts& facts) {
+  const std::string left = facts.Unfinished ? "; " + LeftUnfinished(*facts.Unfinished) : "";
+  return facts.Error->ends_with(left) ? *facts.Error : *facts.Error + left;
+}
+
 void PrintOutcome(const Outcome& outcome, const CommandOptions& options, std::ostream& err) {
   const FileFacts& facts = outcome.Facts;
   if (facts.Error) {
-    PrintLine(err, *facts.Error);
-  } else if (outcome.Unfinished) {
-    PrintLine(err, facts.Input + ": stopped; " + *outcome.Unfinished + " is left unfinished");
+    PrintLine(err, LineOfFailure(facts));
+  } else if (facts.Unfinished) {
+    PrintLine(err, facts.Input + ": stopped; " + LeftUnfinished(*facts.Unfinished));
   } else if (facts.Result == s2k2ngt::kStopped) {
     PrintLine(err, facts.Input + ": stopped");
   } else if (!options.Quiet) {
@@ -103,19 +110,28 @@ void PrintOutcome(const Outcome& outcome, const CommandOptions& options, std::os
 /// Takes note of what the run tells of the rows.
 void TakeAccount(const CConverter& converter, const CommandOptions& options, Outcome& outcome) {
   const s2k2ngt::Account account = converter.AccountOfRows();
-  outcome.HasLoss = account.HasLoss();
+  outcome.Facts.HasLoss = account.HasLoss();
+  outcome.Facts.Rows = RowsOf(account);
   outcome.Account = LinesOf(account);
   if (!options.Reports.empty()) {
-    const s2k2ngt::Drawing drawing = converter.DrawingOfModel();
-    outcome.Part.Json = TextOf(JsonOf(outcome.Facts, account, drawing));
-    outcome.Part.Drawings = DrawingsOf(drawing, account);
+    outcome.Part = PartOf(outcome.Facts, account, converter.DrawingOfModel());
   }
+}
+
+Outcome OutcomeOf(const FileToConvert& file, const CommandOptions& options) {
+  Outcome outcome;
+  outcome.Facts.Input = file.Input;
+  outcome.Facts.IsCheck = options.Check;
+  if (options.WantsAccount()) {
+    outcome.Facts.Rows.emplace();
+  }
+  return outcome;
 }
 
 /// With its part of the reports also where there was no run to account for.
 Outcome WithPart(Outcome outcome, const CommandOptions& options) {
   if (!options.Reports.empty() && outcome.Part.Json.empty()) {
-    outcome.Part.Json = TextOf(JsonOf(outcome.Facts, {}, {}));
+    outcome.Part = PartOf(outcome.Facts, {}, {});
   }
   return outcome;
 }
@@ -144,8 +160,12 @@ void Run(const FileToConvert& file, const CommandOptions& options, std::ostream&
   } else if (facts.Result == s2k2ngt::kFailed) {
     facts.Error = ended.Reason.empty() ? file.Input + ": there is not enough memory to begin"
                                        : ended.Describe(file.Input);
-  } else if (ended.Phase == s2k2ngt::kWriting && !options.Check) {
-    outcome.Unfinished = file.Output;
+  }
+  if (facts.Result != s2k2ngt::kConverted && ended.Phase == s2k2ngt::kWriting && !options.Check) {
+    // A failure may have come before the file that is there was touched.
+    if (facts.Result == s2k2ngt::kStopped || IsUnfinished(file.Output)) {
+      facts.Unfinished = file.Output;
+    }
   }
   if (options.WantsAccount()) {
     try {
@@ -154,7 +174,8 @@ void Run(const FileToConvert& file, const CommandOptions& options, std::ostream&
       // What was written stays as it is told; only the account is missing.
       outcome.Part = {};
       outcome.Account = {"there is not enough memory for the account of its rows"};
-      outcome.HasLoss = true;
+      facts.HasLoss = true;
+      facts.Rows.reset();
     }
   }
 }
@@ -162,8 +183,7 @@ void Run(const FileToConvert& file, const CommandOptions& options, std::ostream&
 }  // namespace
 
 Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::ostream& err) {
-  Outcome outcome;
-  outcome.Facts.Input = file.Input;
+  Outcome outcome = OutcomeOf(file, options);
   if (s2k2ngt::WasInterrupted()) {
     outcome.Facts.Result = s2k2ngt::kStopped;
     return WithPart(std::move(outcome), options);
@@ -176,15 +196,16 @@ Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::o
 }
 
 Outcome FailureOf(const FileToConvert& file, const std::string& reason,
-                  const CommandOptions& options) {
-  Outcome outcome;
-  outcome.Facts.Input = file.Input;
-  outcome.Facts.Error = file.Input + ": " + reason;
+                  const CommandOptions& options, const std::optional<std::string>& unfinished) {
+  Outcome outcome = OutcomeOf(file, options);
+  outcome.Facts.Unfinished = unfinished;
+  outcome.Facts.Error =
+      file.Input + ": " + reason + (unfinished ? "; " + LeftUnfinished(*unfinished) : "");
   return WithPart(std::move(outcome), options);
 }
 
 FileResult ResultOf(Outcome outcome) {
-  return {outcome.Facts.Result, outcome.HasLoss, std::move(outcome.Part)};
+  return {outcome.Facts.Result, outcome.Facts.HasLoss, std::move(outcome.Part)};
 }
 
 void Tell(const Outcome& outcome, const CommandOptions& options, Streams streams) {

@@ -2,7 +2,7 @@
 
 #include "command.h"
 #include "inputs.h"
-#include "json.h"
+#include "report.h"
 
 #include <s2k2ngt/converter.h>
 
@@ -10,12 +10,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-
-/// The part of the reports of a call that a file has; empty when there are none.
-struct ReportPart {
-  std::string Json;
-  std::string Drawings;
-};
 
 /// What a file comes to for the call.
 struct FileResult {
@@ -27,10 +21,8 @@ struct FileResult {
 /// What became of a file.
 struct Outcome {
   FileFacts Facts;
-  bool IsEmpty = false;                   // for want of rows
-  std::optional<std::string> Unfinished;  // output that a stop has left on disk
-  std::vector<std::string> Account;       // lines for people
-  bool HasLoss = false;
+  bool IsEmpty = false;              // for want of rows
+  std::vector<std::string> Account;  // lines for people
   ReportPart Part;
 };
 
@@ -43,9 +35,10 @@ struct Streams {
 /// Converts a file, unless it is refused or the user has stopped the call, and shows its messages.
 Outcome Convert(const FileToConvert& file, const CommandOptions& options, std::ostream& err);
 
-/// The outcome of a file that could not be converted.
+/// The outcome of a file that could not be converted; `unfinished` is an output that this has left.
 Outcome FailureOf(const FileToConvert& file, const std::string& reason,
-                  const CommandOptions& options);
+                  const CommandOptions& options,
+                  const std::optional<std::string>& unfinished = std::nullopt);
 
 /// What the call needs of an outcome that is told.
 FileResult ResultOf(Outcome outcome);

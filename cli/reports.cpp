@@ -2,7 +2,8 @@
 
 #include "common/files.h"
 #include "files_of_call.h"
-#include "page.h"
+#include "memory_reserve.h"
+#include "report.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -10,11 +11,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <new>
+#include <ostream>
 #include <system_error>
-
-#include <nlohmann/json.hpp>
-
-using nlohmann::ordered_json;
 
 namespace {
 
@@ -27,25 +26,50 @@ std::filesystem::path UnfinishedName(const std::string& name) {
 
 std::string SystemError() { return std::strerror(errno); }
 
+/// The object of a file needs less memory to be destroyed than its text has bytes.
+std::size_t SizeOfLargest(const ReportParts& parts) {
+  std::size_t size = 0;
+  for (const ReportPart* part : parts) {
+    size = std::max(size, part->Json.size());
+  }
+  return size;
+}
+
+constexpr const char* kNoMemory = "there is not enough memory";
+
+/// Writes a report into a file of its own; else gives the reason.
+std::optional<std::string> WhyNotMade(const std::filesystem::path& path, bool isPage,
+                                      const ReportParts& parts) {
+  try {
+    const MemoryReserve reserve(SizeOfLargest(parts));
+    std::ofstream file(path, std::ios::binary);
+    (isPage ? WritePage : WriteJsonReport)(parts, file);
+    file.close();
+    return file ? std::nullopt : std::optional(SystemError());
+  } catch (const std::bad_alloc&) {
+    return kNoMemory;
+  }
+}
+
 /// Writes a report in the place of one that is there; else gives the reason.
-std::optional<std::string> WhyNotReplaced(const std::string& name, const std::string& bytes) {
+std::optional<std::string> WhyNotReplaced(const std::string& name, const ReportParts& parts) {
   const std::filesystem::path unfinished = UnfinishedName(name);
-  std::ofstream file(unfinished, std::ios::binary);
-  file << bytes;
-  file.close();
-  std::error_code error;
-  if (!file) {
-    const std::string reason = SystemError();
-    std::filesystem::remove(unfinished, error);
-    return reason;
+  std::optional<std::string> reason = WhyNotMade(unfinished, IsPage(name), parts);
+  if (!reason) {
+    std::error_code error;
+    std::filesystem::rename(unfinished, s2k2ngt::NativePath(name), error);
+    if (!error) {
+      return std::nullopt;
+    }
+    reason = error.message();
   }
-  std::filesystem::rename(unfinished, s2k2ngt::NativePath(name), error);
-  if (error) {
-    std::error_code unknown;
-    std::filesystem::remove(unfinished, unknown);
-    return error.message();
-  }
-  return std::nullopt;
+  std::error_code unknown;
+  std::filesystem::remove(unfinished, unknown);
+  return reason;
+}
+
+void TellUnwritten(const std::string& name, const std::string& reason) {
+  PrintLine(std::cerr, name + ": cannot write the report: " + reason);
 }
 
 /// True when the path is another name of the file.
@@ -95,23 +119,22 @@ std::optional<std::string> WhyNoReport(const std::vector<FileToConvert>& files,
 }
 
 bool WriteReports(const std::vector<FileResult>& results, const CommandOptions& options) {
-  if (options.Reports.empty()) {
-    return true;
-  }
-  std::vector<ordered_json> files;
-  std::vector<std::string> drawings;
+  ReportParts parts;
   for (const FileResult& result : results) {
-    files.push_back(ordered_json::parse(result.Part.Json));
-    drawings.push_back(result.Part.Drawings);
+    parts.push_back(&result.Part);
   }
-  const ordered_json report = ReportOf(files);
   bool areWritten = true;
   for (const std::string& name : options.Reports) {
-    const std::string text = IsPage(name) ? PageOf(report, drawings) : TextOf(report) + '\n';
-    if (const std::optional<std::string> reason = WhyNotReplaced(name, text)) {
-      PrintLine(std::cerr, name + ": cannot write the report: " + *reason);
+    if (const std::optional<std::string> reason = WhyNotReplaced(name, parts)) {
+      TellUnwritten(name, *reason);
       areWritten = false;
     }
   }
   return areWritten;
+}
+
+void TellNoMemoryForReports(const CommandOptions& options) {
+  for (const std::string& name : options.Reports) {
+    TellUnwritten(name, kNoMemory);
+  }
 }

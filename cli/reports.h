@@ -19,3 +19,6 @@ std::optional<std::string> WhyNoReport(const std::vector<FileToConvert>& files,
 /// Writes the reports that the call asks for, of what became of its files. False when one could not
 /// be written, which it tells.
 bool WriteReports(const std::vector<FileResult>& results, const CommandOptions& options);
+
+/// Tells that the call has no memory for what its reports are to hold.
+void TellNoMemoryForReports(const CommandOptions& options);

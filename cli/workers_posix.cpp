@@ -42,8 +42,8 @@ struct Report {
 constexpr char kEndOfPiece = '\0';
 
 void WritePieces(const Outcome& outcome, std::ostream& out) {
-  out << (outcome.HasLoss ? "loss" : "") << kEndOfPiece << outcome.Part.Json << kEndOfPiece
-      << outcome.Part.Drawings << kEndOfPiece;
+  out << (outcome.Facts.HasLoss ? "loss" : "") << kEndOfPiece << outcome.Part.Json << kEndOfPiece
+      << outcome.Part.Summary << kEndOfPiece << outcome.Part.Drawings << kEndOfPiece;
 }
 
 std::string TakePiece(std::string_view& text) {
@@ -255,6 +255,7 @@ void Workers::End(const Worker& worker) {
     report->Result.Result = result == kOneFailed ? s2k2ngt::kFailed : result;
     report->Result.HasLoss = !TakePiece(out).empty();
     report->Result.Part.Json = TakePiece(out);
+    report->Result.Part.Summary = TakePiece(out);
     report->Result.Part.Drawings = TakePiece(out);
     report->Out = out;
     report->Err = worker.Err.Text;
@@ -263,11 +264,9 @@ void Workers::End(const Worker& worker) {
   const FileToConvert& file = m_Files[worker.File];
   const std::string how = WIFSIGNALED(status) ? "signal " + std::to_string(WTERMSIG(status))
                                               : "status " + std::to_string(WEXITSTATUS(status));
-  std::string reason = "the conversion was ended by " + how;
-  if (!m_Options.Check && IsUnfinished(file.Output)) {
-    reason += "; " + file.Output + " is left unfinished";
-  }
-  report = ReportOf(FailureOf(file, reason, m_Options));
+  const bool hasLeft = !m_Options.Check && IsUnfinished(file.Output);
+  report = ReportOf(FailureOf(file, "the conversion was ended by " + how, m_Options,
+                              hasLeft ? std::optional(file.Output) : std::nullopt));
   report->Err.insert(0, worker.Err.Text);
 }
 

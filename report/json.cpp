@@ -2,9 +2,8 @@
 
 #include <s2k2ngt/s2k2ngt.h>
 
-#include <algorithm>
 #include <array>
-#include <set>
+#include <numeric>
 #include <string_view>
 
 using nlohmann::ordered_json;
@@ -25,33 +24,25 @@ ordered_json TextOrNull(const std::optional<std::string>& text) {
 }
 
 /// In a word what became of the model.
-const char* VerdictOf(const FileFacts& facts, const Account& account) {
+const char* VerdictOf(const FileFacts& facts) {
   if (facts.Result == S2K2NGT_STOPPED) {
     return "stopped";
   }
   if (facts.Result != S2K2NGT_CONVERTED) {
     return "failed";
   }
-  return account.HasLoss() ? "losses" : "whole";
+  return facts.HasLoss ? "losses" : "whole";
 }
 
-ordered_json RowsOf(const Account& account) {
-  ordered_json rows = {{"read", 0}};
-  std::uint64_t read = 0;
+ordered_json JsonOf(const RowCounts& counts) {
+  ordered_json rows = {{"read", std::accumulate(counts.begin(), counts.end(), std::uint64_t{0})}};
   for (std::size_t fate = 0; fate < kFates.size(); ++fate) {
-    const std::uint64_t count = account.With(static_cast<s2k2ngt::RowFate>(fate));
-    rows[kFates[fate]] = count;
-    read += count;
+    rows[kFates[fate]] = counts[fate];
   }
-  rows["read"] = read;
   return rows;
 }
 
 ordered_json JsonOf(const s2k2ngt::TableAccount& table) {
-  ordered_json rows = {{"read", table.Rows}};
-  for (std::size_t fate = 0; fate < kFates.size(); ++fate) {
-    rows[kFates[fate]] = table.ByFate[fate];
-  }
   ordered_json reasons = ordered_json::array();
   for (const s2k2ngt::ReasonCount& count : table.Reasons) {
     reasons.push_back({{"code", count.Why->Code}, {"rows", count.Rows}});
@@ -60,44 +51,67 @@ ordered_json JsonOf(const s2k2ngt::TableAccount& table) {
           {"line", table.Line},
           {"id", table.TableId},
           {"message", table.Message.empty() ? ordered_json(nullptr) : ordered_json(table.Message)},
-          {"rows", rows},
+          {"rows", JsonOf(std::to_array(table.ByFate))},
           {"reasons", reasons}};
 }
 
-ordered_json LossesOf(const Account& account) {
-  ordered_json losses = ordered_json::array();
-  for (const s2k2ngt::RowLoss& loss : account.Losses) {
-    losses.push_back({{"table", loss.Table},
-                      {"position", loss.Position},
-                      {"line", loss.Line},
-                      {"label", loss.Label},
-                      {"reason", loss.Why->Code}});
+ordered_json JsonOf(const s2k2ngt::RowLoss& loss) {
+  return {{"table", loss.Table},
+          {"position", loss.Position},
+          {"line", loss.Line},
+          {"label", loss.Label},
+          {"reason", loss.Why->Code}};
+}
+
+ordered_json JsonOf(const s2k2ngt::DrawnNode& node) {
+  return {{"label", node.Label}, {"number", node.Number}};
+}
+
+bool HasNumber(const s2k2ngt::DrawnElement& element) {
+  return static_cast<std::size_t>(element.Kind) < kKinds.size();
+}
+
+ordered_json JsonOf(const s2k2ngt::DrawnElement& element) {
+  return {{"kind", kKinds.at(static_cast<std::size_t>(element.Kind))},
+          {"label", element.Label},
+          {"number", element.Number}};
+}
+
+template <class Thing>
+bool All(const Thing& /*thing*/) {
+  return true;
+}
+
+/// Appends an array of the things that are wanted.
+template <class Thing>
+void AppendArray(const std::vector<Thing>& things, std::string& text,
+                 bool (*isWanted)(const Thing&) = All<Thing>) {
+  text += '[';
+  const char* separator = "";
+  for (const Thing& thing : things) {
+    if (isWanted(thing)) {
+      text.append(separator).append(TextOf(JsonOf(thing)));
+      separator = ",";
+    }
   }
-  return losses;
+  text += ']';
 }
 
 /// The numbers that labels have become; null where labels are numbers and have stayed.
-ordered_json NumbersOf(const Drawing& drawing) {
-  ordered_json numbers = {{"joints", nullptr}, {"elements", nullptr}};
+void AppendNumbers(const Drawing& drawing, std::string& text) {
+  text += "{\"joints\":";
   if (drawing.NodesAreRenumbered) {
-    ordered_json joints = ordered_json::array();
-    for (const s2k2ngt::DrawnNode& node : drawing.Nodes) {
-      joints.push_back({{"label", node.Label}, {"number", node.Number}});
-    }
-    numbers["joints"] = joints;
+    AppendArray(drawing.Nodes, text);
+  } else {
+    text += "null";
   }
+  text += ",\"elements\":";
   if (drawing.ElementsAreRenumbered) {
-    ordered_json elements = ordered_json::array();
-    for (const s2k2ngt::DrawnElement& element : drawing.Elements) {
-      const auto kind = static_cast<std::size_t>(element.Kind);
-      if (kind < kKinds.size()) {
-        elements.push_back(
-            {{"kind", kKinds.at(kind)}, {"label", element.Label}, {"number", element.Number}});
-      }
-    }
-    numbers["elements"] = elements;
+    AppendArray(drawing.Elements, text, HasNumber);
+  } else {
+    text += "null";
   }
-  return numbers;
+  text += '}';
 }
 
 ordered_json JsonOf(const Reason& reason) {
@@ -108,28 +122,8 @@ ordered_json JsonOf(const Reason& reason) {
           {"advice", reason.Advice}};
 }
 
-/// The reasons that occur in the files, in the order of the list.
-ordered_json ReasonsOf(const std::vector<ordered_json>& files) {
-  std::set<std::string, std::less<>> met;
-  for (const ordered_json& file : files) {
-    for (const ordered_json& table : file["tables"]) {
-      for (const ordered_json& reason : table["reasons"]) {
-        met.insert(reason["code"].get<std::string>());
-      }
-    }
-  }
-  ordered_json reasons = ordered_json::array();
-  for (const Reason& reason : s2k2ngt::Reasons()) {
-    if (met.contains(std::string_view(reason.Code))) {
-      reasons.push_back(JsonOf(reason));
-    }
-  }
-  return reasons;
-}
-
-}  // namespace
-
-ordered_json JsonOf(const FileFacts& facts) {
+/// What is told of a file in every form.
+ordered_json BeginningOf(const FileFacts& facts) {
   ordered_json messages = ordered_json::array();
   for (const Message& message : facts.Messages) {
     messages.push_back({{"key", message.Key}, {"text", message.Text}});
@@ -141,26 +135,71 @@ ordered_json JsonOf(const FileFacts& facts) {
           {"error", TextOrNull(facts.Error)}};
 }
 
-ordered_json JsonOf(const FileFacts& facts, const Account& account, const Drawing& drawing) {
-  ordered_json tables = ordered_json::array();
-  for (const s2k2ngt::TableAccount& table : account.Tables) {
-    tables.push_back(JsonOf(table));
+}  // namespace
+
+RowCounts RowsOf(const Account& account) {
+  RowCounts rows{};
+  for (std::size_t fate = 0; fate < rows.size(); ++fate) {
+    rows.at(fate) = account.With(static_cast<s2k2ngt::RowFate>(fate));
   }
-  ordered_json file = JsonOf(facts);
-  file["verdict"] = VerdictOf(facts, account);
-  file["rows"] = RowsOf(account);
-  file["tables"] = tables;
-  file["losses"] = LossesOf(account);
-  file["numbers"] = NumbersOf(drawing);
+  return rows;
+}
+
+ordered_json JsonOf(const FileFacts& facts) {
+  ordered_json file = BeginningOf(facts);
+  if (facts.Rows) {
+    file["verdict"] = VerdictOf(facts);
+    file["has_loss"] = facts.HasLoss;
+    file["rows"] = JsonOf(*facts.Rows);
+  }
   return file;
 }
 
-ordered_json ReportOf(const std::vector<ordered_json>& files) {
+std::string TextOfFile(const FileFacts& facts, const Account& account, const Drawing& drawing) {
+  ordered_json head = BeginningOf(facts);
+  head["verdict"] = VerdictOf(facts);
+  head["check"] = facts.IsCheck;
+  head["unfinished"] = TextOrNull(facts.Unfinished);
+  head["rows"] = JsonOf(RowsOf(account));
+  std::string text = TextOf(head);
+  text.back() = ',';
+  text += "\"tables\":";
+  AppendArray(account.Tables, text);
+  text += ",\"losses\":";
+  AppendArray(account.Losses, text);
+  text += ",\"numbers\":";
+  AppendNumbers(drawing, text);
+  text += '}';
+  return text;
+}
+
+ordered_json SummaryOf(const FileFacts& facts, const Account& account) {
+  std::set<std::string_view> codes;
+  for (const s2k2ngt::TableAccount& table : account.Tables) {
+    for (const s2k2ngt::ReasonCount& count : table.Reasons) {
+      codes.insert(count.Why->Code);
+    }
+  }
+  return {{"input", facts.Input},
+          {"verdict", VerdictOf(facts)},
+          {"rows", JsonOf(RowsOf(account))},
+          {"reasons", codes}};
+}
+
+ordered_json HeadOfReport() {
   return {{"schema", "s2k2ngt-report"},
           {"version", 1},
-          {"program", {{"name", "s2k2ngt"}, {"version", s2k2ngt_version()}}},
-          {"files", files},
-          {"reasons", ReasonsOf(files)}};
+          {"program", {{"name", "s2k2ngt"}, {"version", s2k2ngt_version()}}}};
+}
+
+ordered_json ReasonsWith(const std::set<std::string, std::less<>>& codes) {
+  ordered_json reasons = ordered_json::array();
+  for (const Reason& reason : s2k2ngt::Reasons()) {
+    if (codes.contains(std::string_view(reason.Code))) {
+      reasons.push_back(JsonOf(reason));
+    }
+  }
+  return reasons;
 }
 
 std::string TextOf(const ordered_json& object) {

@@ -16,8 +16,8 @@ namespace {
 /// The reasons of a file's rows.
 class Losses {
  public:
-  Losses(const ordered_json& report, std::size_t file)
-      : m_Report(report), m_File(report["files"][file]), m_Number(file) {
+  Losses(const ordered_json& file, std::size_t number, const ordered_json& reasons)
+      : m_File(file), m_Number(number), m_Reasons(reasons) {
     const ordered_json& losses = m_File["losses"];
     for (std::size_t loss = 0; loss < losses.size(); ++loss) {
       m_OfReason[losses[loss]["reason"].get<std::string>()].push_back(loss);
@@ -27,7 +27,7 @@ class Losses {
   /// The reasons of a kind, each with its rows; empty when the file has none.
   std::string OfKind(std::string_view fate, bool isLoss) const {
     std::string html;
-    for (const ordered_json& reason : m_Report["reasons"]) {
+    for (const ordered_json& reason : m_Reasons) {
       if ((fate.empty() || reason["fate"] == fate) && reason["loss"] == isLoss) {
         html += OfReason(reason);
       }
@@ -48,9 +48,9 @@ class Losses {
   std::string HeadOf(const Place& place, const std::string& code) const;
   std::string MessageOf(const ordered_json& table) const;
 
-  const ordered_json& m_Report;
   const ordered_json& m_File;
   std::size_t m_Number;
+  const ordered_json& m_Reasons;
   std::map<std::string, std::vector<std::size_t>, std::less<>> m_OfReason;
 };
 
@@ -150,7 +150,8 @@ std::string Losses::OfRows(const std::vector<Place>& places, const std::vector<s
 
 }  // namespace
 
-std::vector<Section> LossSectionsOf(const ordered_json& report, std::size_t file) {
+std::vector<Section> LossSectionsOf(const ordered_json& file, std::size_t number,
+                                    const ordered_json& reasons) {
   struct Kind {
     const char* Id;
     const char* Title;
@@ -167,7 +168,7 @@ std::vector<Section> LossSectionsOf(const ordered_json& report, std::size_t file
       {"no-loss", "No loss", "Rows that did not go over, by which no part of the model is lost.",
        "", false},
   }};
-  const Losses losses(report, file);
+  const Losses losses(file, number, reasons);
   std::vector<Section> sections;
   for (const Kind& kind : kKinds) {
     const std::string html = losses.OfKind(kind.Fate, kind.IsLoss);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -13,6 +14,7 @@ struct Section {
 };
 
 /// What became of the rows that did not go over as they stand, by kind: one section for each fate
-/// that has losses, the worst first, and one for what is no loss. `file` is the number of the file
-/// in the report.
-std::vector<Section> LossSectionsOf(const nlohmann::ordered_json& report, std::size_t file);
+/// that has losses, the worst first, and one for what is no loss. `number` is that of the file in
+/// the report, whose `reasons` are those of all its files.
+std::vector<Section> LossSectionsOf(const nlohmann::ordered_json& file, std::size_t number,
+                                    const nlohmann::ordered_json& reasons);

@@ -6,6 +6,23 @@
 
 using nlohmann::ordered_json;
 
+const VerdictWords& VerdictIn(const ordered_json& file) {
+  return *std::ranges::find_if(
+      kVerdicts, [&](const VerdictWords& verdict) { return file["verdict"] == verdict.Key; });
+}
+
+std::string Badge(const VerdictWords& verdict) {
+  return std::string("<span class=\"badge ") + verdict.Class + "\">" + verdict.Words + "</span>";
+}
+
+std::string TextIn(const ordered_json& object, const char* key) {
+  return object[key].get<std::string>();
+}
+
+std::string_view LastPartOf(std::string_view path) {
+  return path.substr(path.find_last_of("/\\") + 1);
+}
+
 std::string OfFile(std::size_t file) { return "data-file=\"" + std::to_string(file) + "\""; }
 
 std::string OfTable(std::size_t file, std::size_t table) {

@@ -26,6 +26,27 @@ inline constexpr std::array<FateWords, 5> kFateWords = {{
     {"not_looked_at", "Not looked at", "unseen"},
 }};
 
+/// A verdict by its name in the report, and in words.
+struct VerdictWords {
+  const char* Key;
+  const char* Words;
+  const char* Class;
+};
+inline constexpr std::array<VerdictWords, 4> kVerdicts = {{
+    {"whole", "converted without loss", "whole"},
+    {"losses", "converted with losses", "losses"},
+    {"stopped", "stopped", "stopped"},
+    {"failed", "not converted", "failed"},
+}};
+const VerdictWords& VerdictIn(const nlohmann::ordered_json& file);
+std::string Badge(const VerdictWords& verdict);
+
+/// A text of an object of the report.
+std::string TextIn(const nlohmann::ordered_json& object, const char* key);
+
+/// The last part of a path.
+std::string_view LastPartOf(std::string_view path);
+
 /// Where a number stands in the report, as attributes.
 std::string OfFile(std::size_t file);
 std::string OfTable(std::size_t file, std::size_t table);

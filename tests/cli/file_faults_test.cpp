@@ -13,6 +13,7 @@ namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
+using testing::Not;
 
 using CommandFaults = CommandTest;
 
@@ -34,6 +35,40 @@ TEST_F(CommandFaults, FullDiskIsToldInWordsAndTheNextFileIsConverted) {
   EXPECT_EQ(objects[1]["result"], 0);
   EXPECT_EQ(objects[1]["error"], nullptr);
   EXPECT_TRUE(ReadFile(m_Folder.FileName("mast.ngt")).ends_with("*ENDDATA"));
+}
+
+TEST_F(CommandFaults, OutputThatAFailureLeavesUnfinishedIsNamed) {
+  std::string rows = "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int joint = 1; joint <= 60'000; ++joint) {
+    rows += "   Joint=" + std::to_string(joint) + "   XorR=1   Y=2   Z=3\n";
+  }
+  Write("tower.s2k", FileWith(rows));
+  // No file may grow beyond half a megabyte, which the output would.
+  const CommandRun run = CallInShell(
+      "trap '' XFSZ; ulimit -f 1024; exec $S2K2NGT --json --report lost.json --report lost.html "
+      "tower.s2k");
+  EXPECT_EQ(run.Status, 2);
+  const std::string error =
+      "tower.s2k: writing: Cannot write output file tower.ngt: File too large";
+  EXPECT_THAT(run.Err, HasSubstr("s2k2ngt: " + error + "; tower.ngt is left unfinished\n"));
+  EXPECT_EQ(JsonLines(run.Out).at(0)["error"], error);
+  EXPECT_EQ(JsonLines(run.Out).at(0)["output"], nullptr);
+  const json file = json::parse(ReadFile(m_Folder.FileName("lost.json")))["files"][0];
+  EXPECT_EQ(file["error"], error);
+  EXPECT_EQ(file["output"], nullptr);
+  EXPECT_EQ(file["unfinished"], "tower.ngt");
+  EXPECT_THAT(ReadFile(m_Folder.FileName("lost.html")),
+              HasSubstr("<bdi>tower.ngt</bdi> is left unfinished."));
+}
+
+TEST_F(CommandFaults, FailureBeforeTheOutputIsTouchedLeavesNoneUnfinished) {
+  Write("tower.s2k", kOneJoint);
+  std::filesystem::create_directory(m_Folder.Path() / "tower.ngt");
+  const CommandRun run = Call({"--report", "lost.json", "tower.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_THAT(run.Err, Not(HasSubstr("unfinished")));
+  EXPECT_EQ(json::parse(ReadFile(m_Folder.FileName("lost.json")))["files"][0]["unfinished"],
+            nullptr);
 }
 
 TEST_F(CommandFaults, ReadErrorIsToldInWordsAndLeavesAnEarlierOutput) {

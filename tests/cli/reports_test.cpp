@@ -1,6 +1,17 @@
-#include "command_fixture.h"
+#include "cli/command_fixture.h"
+#include "cli/running_command.h"
+#include "support/command_run.h"
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -111,13 +122,47 @@ TEST_F(ReportsTest, AFileThatFailsStandsInTheReport) {
   EXPECT_THAT(report["files"][1]["tables"], IsEmpty());
 }
 
-TEST_F(ReportsTest, OutputMessagesAndJsonAreThoseOfACallWithoutAReport) {
+TEST_F(ReportsTest, OutputAndMessagesAreThoseOfACallWithoutAReportAndTheLineOfJsonIsLonger) {
   Write("lossy.s2k", kLosses);
   const CommandRun plain = Call({"--json", "lossy.s2k"});
+  EXPECT_THAT(plain.Out, testing::EndsWith("],\"error\":null}\n"));
   const std::string output = Text("lossy.ngt");
   const CommandRun run = Call({"--json", "--report", "lost.json", "lossy.s2k"});
-  EXPECT_EQ(run.Out, plain.Out);
+  EXPECT_EQ(run.Out, plain.Out.substr(0, plain.Out.size() - 2) +
+                         R"(,"verdict":"losses","has_loss":true,"rows":{"read":4,"converted":2,)"
+                         R"("changed":0,"dropped":1,"refused":1,"not_looked_at":0}})"
+                         "\n");
   EXPECT_EQ(Text("lossy.ngt"), output);
+}
+
+TEST_F(ReportsTest, LinesOfJsonHaveVerdictsWhereverAnAccountIsKept) {
+  Write("whole.s2k", kOneJoint);
+  for (const std::vector<std::string>& how : std::vector<std::vector<std::string>>{
+           {"--check"}, {"--fail-on-loss"}, {"--report", "lost.json"}, {"--check", "-j", "2"}}) {
+    SCOPED_TRACE(how[0]);
+    std::vector<std::string> words = {"--json", "whole.s2k", "missing.s2k"};
+    words.insert(words.begin(), how.begin(), how.end());
+    const std::vector<json> lines = JsonLines(Call(words).Out);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0]["verdict"], "whole");
+    EXPECT_EQ(lines[0]["has_loss"], false);
+    EXPECT_EQ(lines[0]["rows"]["converted"], 1);
+    EXPECT_EQ(lines[1]["verdict"], "failed");
+    EXPECT_EQ(lines[1]["rows"]["read"], 0);
+  }
+}
+
+TEST_F(ReportsTest, ACheckSaysSoInTheReports) {
+  Write("model.s2k", kOneJoint);
+  Call({"--check", "--report", "lost.json", "--report", "lost.html", "model.s2k"});
+  const json checked = Report("lost.json")["files"][0];
+  EXPECT_EQ(checked["check"], true);
+  EXPECT_EQ(checked["output"], nullptr);
+  EXPECT_EQ(checked["unfinished"], nullptr);
+  EXPECT_THAT(Text("lost.html"), HasSubstr("Checked only: no output was written."));
+  Call({"--report", "lost.json", "--report", "lost.html", "model.s2k"});
+  EXPECT_EQ(Report("lost.json")["files"][0]["check"], false);
+  EXPECT_THAT(Text("lost.html"), Not(HasSubstr("Checked only")));
 }
 
 TEST_F(ReportsTest, AReportOfAnotherEndingIsWrongUsage) {
@@ -237,6 +282,44 @@ TEST_F(ReportsTest, TheSummaryTellsHowManyFilesHaveLosses) {
 TEST_F(ReportsTest, AQuietCallTellsNothingOfTheRows) {
   Write("lossy.s2k", kLosses);
   EXPECT_EQ(Call({"--quiet", "--check", "lossy.s2k"}).Err, "");
+}
+
+TEST_F(ReportsTest, WantOfMemoryForAPageIsToldByItsName) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  GTEST_SKIP() << "the sanitizer takes more address space than any limit leaves";
+#endif
+  // The second block writes over each row of the first.
+  std::string rows = "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int joint = 1; joint <= 200'000; ++joint) {
+    rows += "   Joint=" + std::to_string(joint) + "\n";
+  }
+  Write("lossy.s2k", FileWith(rows + "\n" + rows));
+  Write("lost.html", "of an earlier call");
+  const std::string last = m_Folder.FileName("last.s2k");
+  ASSERT_EQ(mkfifo(last.c_str(), 0600), 0);
+  // Memory that is free goes back to the system.
+  const std::string freeing =
+      "GLIBC_TUNABLES=glibc.malloc.trim_threshold=65536:glibc.malloc.mmap_threshold=65536";
+  const CommandRun run =
+      RunCommand({.Words = {"/usr/bin/env", freeing, S2K2NGT_COMMAND, "--report", "lost.html",
+                            "lossy.s2k", "last.s2k"},
+                  .Folder = m_Folder.Path(),
+                  .WhileRunning = [&](pid_t process) {
+                    std::ofstream writer(last);
+                    // Enough for one joint, and much less than the losses take as an object.
+                    constexpr rlim_t kRoom = rlim_t{32} << 20U;
+                    const rlim_t size = (std::stoul(StatusLine(process, "VmSize:")) << 10U) + kRoom;
+                    const rlimit limit = {size, size};
+                    EXPECT_EQ(prlimit(process, RLIMIT_AS, &limit, nullptr), 0);
+                    writer << kOneJoint;
+                  }});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_THAT(run.Err,
+              testing::EndsWith("s2k2ngt: lost.html: cannot write the report: there is not "
+                                "enough memory\n"));
+  EXPECT_TRUE(Text("lost.html") == "of an earlier call");
+  EXPECT_FALSE(Exists("lost.html.part"));
+  EXPECT_TRUE(Exists("last.ngt"));
 }
 
 }  // namespace

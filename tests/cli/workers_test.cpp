@@ -128,8 +128,9 @@ TEST_F(Workers, KilledOneThatHasBegunToWriteIsToldWithItsOutput) {
   // A file that grows too large ends the process; half a megabyte is less than one piece.
   Write("large.s2k", Joints(60'000));
   Write("small.s2k", kOneJoint);
-  const CommandRun run =
-      CallInShell("ulimit -c 0; ulimit -f 1024; exec $S2K2NGT --json -j 2 large.s2k small.s2k");
+  const CommandRun run = CallInShell(
+      "ulimit -c 0; ulimit -f 1024; exec $S2K2NGT --json --report lost.json -j 2 "
+      "large.s2k small.s2k");
   EXPECT_EQ(run.Status, 2);
   const std::vector<json> objects = JsonLines(run.Out);
   ASSERT_EQ(objects.size(), 2U);
@@ -139,6 +140,10 @@ TEST_F(Workers, KilledOneThatHasBegunToWriteIsToldWithItsOutput) {
   EXPECT_EQ(std::filesystem::file_size(m_Folder.Path() / "large.ngt"), 1024U * 512U);
   // What was shown before is not lost.
   EXPECT_THAT(run.Err, StartsWith("large.s2k: The file must be"));
+  EXPECT_THAT(run.Err, HasSubstr("s2k2ngt: " + objects[0]["error"].get<std::string>() + "\n"));
+  const json report = json::parse(ReadFile(m_Folder.FileName("lost.json")));
+  EXPECT_EQ(report["files"][0]["unfinished"], "large.ngt");
+  EXPECT_EQ(report["files"][1]["unfinished"], nullptr);
 }
 
 TEST_F(Workers, KilledOneIsNotSaidToHaveSpoiltAWholeOutput) {

@@ -29,6 +29,8 @@ ordered_json WholeFile(const std::string& input = "models/frame.s2k") {
           {"result", 0},
           {"error", nullptr},
           {"verdict", "whole"},
+          {"check", false},
+          {"unfinished", nullptr},
           {"messages", ordered_json::array()},
           {"rows", Rows(5)},
           {"tables",
@@ -68,12 +70,13 @@ ordered_json ReasonR(const char* fate = "dropped", bool isLoss = true) {
 
 std::string Page(const std::vector<ordered_json>& files, const std::vector<ordered_json>& reasons,
                  const std::vector<std::string>& drawings = {}) {
-  return PageOf({{"schema", "s2k2ngt-report"},
-                 {"version", 1},
-                 {"program", {{"name", "s2k2ngt"}, {"version", "9.8.7"}}},
-                 {"files", files},
-                 {"reasons", reasons}},
-                drawings);
+  // Of a file its account has all members that its summary has.
+  std::string page = BeginningOfPage({{"name", "s2k2ngt"}, {"version", "9.8.7"}}, files);
+  for (std::size_t number = 0; number < files.size(); ++number) {
+    page += PartOfPage(files[number], number, reasons,
+                       number < drawings.size() ? drawings[number] : "");
+  }
+  return page + kEndOfPage;
 }
 
 std::string Page(const ordered_json& file) { return Page({file}, {ReasonR()}); }
@@ -117,7 +120,7 @@ TEST(PageTest, EveryTextIsEscaped) {
   const std::string hostile = "<script>\"&'\x01\xC3(";
   const std::string shown = "&lt;script&gt;&quot;&amp;&#39;\uFFFD\uFFFD(";
   ordered_json file = FileWithDropped(1);
-  file["input"] = file["output"] = file["error"] = hostile;
+  file["input"] = file["output"] = file["error"] = file["unfinished"] = hostile;
   file["messages"] = {{{"key", hostile}, {"text", hostile}}};
   file["tables"][0]["title"] = hostile;
   file["tables"][0]["message"] = hostile;
@@ -131,8 +134,9 @@ TEST(PageTest, EveryTextIsEscaped) {
   for (std::size_t at = page.find(shown); at != std::string::npos; at = page.find(shown, at + 1)) {
     ++count;
   }
-  // Title, heading, path in and out, error, message with its key, table twice, loss, two numbers.
-  EXPECT_EQ(count, 12U);
+  // Title, heading, path in and out, error, what is unfinished, message with its key, table twice,
+  // loss, two numbers.
+  EXPECT_EQ(count, 13U);
 }
 
 // The verdict
@@ -166,6 +170,28 @@ TEST(PageTest, AFailedFileTellsItsError) {
   EXPECT_THAT(page, HasSubstr("<p class=\"error\">frame.s2k:4: it is broken</p>"));
   EXPECT_THAT(Words(page), HasSubstr("not converted"));
   EXPECT_THAT(Words(page), HasSubstr("No output was written."));
+}
+
+TEST(PageTest, AFileThatWasOnlyCheckedSaysSo) {
+  EXPECT_THAT(Page(WholeFile()), Not(HasSubstr("Checked only")));
+  ordered_json file = WholeFile();
+  file["output"] = nullptr;
+  file["check"] = true;
+  const std::string words = Words(Page(file));
+  EXPECT_THAT(words, HasSubstr("\nChecked only: no output was written.\n"));
+  EXPECT_THAT(words, Not(HasSubstr("No output was written.")));
+}
+
+TEST(PageTest, AnOutputThatIsLeftUnfinishedIsNamed) {
+  EXPECT_THAT(Page(WholeFile()), Not(HasSubstr("unfinished")));
+  ordered_json file = WholeFile();
+  file["verdict"] = "stopped";
+  file["output"] = nullptr;
+  file["unfinished"] = "models/<frame>.ngt";
+  const std::string page = Page(file);
+  EXPECT_THAT(page, HasSubstr("<p class=\"error\"><bdi>models/&lt;frame&gt;.ngt</bdi> is left "
+                              "unfinished.</p>"));
+  EXPECT_THAT(page, Not(HasSubstr("No output was written.")));
 }
 
 TEST(PageTest, AFileWithoutRowsSaysSo) {
