@@ -58,6 +58,21 @@ bool IsUtf16(const std::string& path) {
   return hasMark || (first[0] == 0) != (first[1] == 0);
 }
 
+/// Makes the folder of an output; a dry run only looks whether it could be made.
+std::error_code PrepareFolder(std::filesystem::path folder, bool isCheck) {
+  std::error_code error;
+  if (!isCheck) {
+    std::filesystem::create_directories(folder, error);
+    return error;
+  }
+  while (folder.has_relative_path() && !std::filesystem::exists(folder, error)) {
+    folder = folder.parent_path();
+  }
+  const bool isInTheWay =
+      std::filesystem::exists(folder, error) && !std::filesystem::is_directory(folder, error);
+  return isInTheWay ? std::make_error_code(std::errc::not_a_directory) : std::error_code();
+}
+
 /// Why a file is not even begun with, in words for the user.
 std::optional<std::string> WhyNotConverted(const FileToConvert& file,
                                            const CommandOptions& options) {
@@ -67,11 +82,9 @@ std::optional<std::string> WhyNotConverted(const FileToConvert& file,
   if (IsUtf16(file.Input)) {
     return "it is UTF-16 text (\"Unicode\"); save it as plain text or UTF-8";
   }
-  if (!options.OutputDirectory.empty() && !options.Check) {
-    std::error_code error;
+  if (!options.OutputDirectory.empty()) {
     const std::filesystem::path output = s2k2ngt::NativePath(file.Output);
-    std::filesystem::create_directories(output.parent_path(), error);
-    if (error) {
+    if (const std::error_code error = PrepareFolder(output.parent_path(), options.Check)) {
       return "cannot make the folder of " + file.Output + ": " + error.message();
     }
   }

@@ -114,7 +114,7 @@ std::vector<FileToConvert> ListFiles(const CommandOptions& options) {
   }
   FilesOfCall known(inputs);
   for (FileToConvert& file : files) {
-    if (file.Refusal || options.Check) {
+    if (file.Refusal) {
       continue;
     }
     if (options.OutputDirectory.empty() && !LiesBeside(file.Input, file.Output)) {
@@ -122,7 +122,7 @@ std::vector<FileToConvert> ListFiles(const CommandOptions& options) {
       file.Refusal = "the output would not lie beside the input; rename the input to end in .s2k";
       continue;
     }
-    file.IsRepeated = known.IsWritten(file.Output);
+    file.IsRepeated = !options.Check && known.IsWritten(file.Output);
     file.Refusal = known.WhyNotWritten(file.Input, file.Output);
   }
   return files;

@@ -249,6 +249,42 @@ TEST_F(ReportsTest, ACheckMakesNoFolder) {
   EXPECT_FALSE(Exists("outputs"));
 }
 
+TEST_F(ReportsTest, ACheckRefusesWhatAConversionWouldRefuse) {
+  for (const char* name : {"a.s2k", "a.txt", "own.ngt"}) {
+    Write(name, kOneJoint);
+  }
+  const std::vector<std::string> files = {"--json", "a.s2k", "a.txt", "own.ngt"};
+  std::vector<std::string> check = files;
+  check.insert(check.begin(), "--check");
+  const CommandRun dry = Call(check);
+  EXPECT_EQ(dry.Status, 2);
+  EXPECT_FALSE(Exists("a.ngt"));
+  const std::vector<json> lines = JsonLines(dry.Out);
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[0]["error"], nullptr);
+  EXPECT_EQ(lines[1]["error"], "a.txt: the output would replace that of a.s2k");
+  EXPECT_EQ(lines[2]["error"],
+            "own.ngt: the output would replace the input; rename the input to end in .s2k");
+  const std::vector<json> real = JsonLines(Call(files).Out);
+  ASSERT_EQ(real.size(), 3U);
+  for (std::size_t file = 0; file < real.size(); ++file) {
+    EXPECT_EQ(real[file]["error"], lines[file]["error"]);
+  }
+}
+
+TEST_F(ReportsTest, ACheckTellsOfAFolderThatCannotBeMade) {
+  Write("a.s2k", kOneJoint);
+  Write("outputs", "a file");
+  for (const std::string folder : {"outputs", "outputs/below/it"}) {
+    const CommandRun run = Call({"--check", "--json", "-o", folder, "a.s2k"});
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_EQ(JsonLines(run.Out).at(0)["error"],
+              "a.s2k: cannot make the folder of " + folder + "/a.ngt: Not a directory");
+  }
+  EXPECT_EQ(Call({"--check", "-o", "new/below/it", "a.s2k"}).Status, 0);
+  EXPECT_FALSE(Exists("new"));
+}
+
 TEST_F(ReportsTest, ACheckOfAFileThatFailsFails) {
   Write("old.s2k", "JOINT\n");
   EXPECT_EQ(Call({"--check", "old.s2k"}).Status, 2);
