@@ -129,6 +129,8 @@ std::vector<FileToConvert> ListFiles(const CommandOptions& options) {
 }
 
 bool IsUnfinished(const std::string& output) {
+  // The lines with which each output begins and ends.
+  const std::string head = ";" + std::string(75, '-') + "\n;  NORDA/Gen Text(NGT) File.\n";
   constexpr std::string_view kEnd = "*ENDDATA";
   std::error_code noSuchFile;
   if (!std::filesystem::is_regular_file(NativePath(output), noSuchFile)) {
@@ -138,6 +140,13 @@ bool IsUnfinished(const std::string& output) {
   if (!file) {
     return false;
   }
+  std::string first(head.size(), '\0');
+  file.read(first.data(), static_cast<std::streamsize>(first.size()));
+  first.resize(static_cast<std::size_t>(file.gcount()));
+  if (!head.starts_with(first)) {
+    return false;  // of another program
+  }
+  file.clear();
   // The end of the file, or all of it; an editor may have put line ends behind the last line.
   std::array<char, 64> last{};
   if (!file.seekg(-static_cast<std::streamoff>(last.size()), std::ios::end)) {

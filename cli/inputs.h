@@ -19,6 +19,6 @@ struct FileToConvert {
 /// All files that a call names, those of folders in the order of their paths.
 std::vector<FileToConvert> ListFiles(const CommandOptions& options);
 
-/// True for an output file without the line that ends it, as a run leaves it that was ended or
-/// failed while it wrote.
+/// True for a file that begins as outputs do, as far as it goes, without the line that ends them:
+/// as a run leaves it that was ended or failed while it wrote.
 bool IsUnfinished(const std::string& output);

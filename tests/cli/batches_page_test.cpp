@@ -125,7 +125,7 @@ TEST_F(BatchesPage, CommandWithJobsAndItsResults) {
 TEST_F(BatchesPage, CommandThatFindsUnfinishedOutputs) {
   std::filesystem::create_directories(m_Folder.Path() / "results/north");
   Write("results/north/bridge.ngt", "*NODE\n*ENDDATA");
-  Write("results/north/tower.ngt", "*NODE\n\t1,     0");
+  Write("results/north/tower.ngt", kBeginningOfOutput + "*NODE\n\t1,     0");
   Write("results/mast.ngt", "");
   EXPECT_THAT(RunBlock("tail -c 8").Out, AnyOf("./results/north/tower.ngt\n./results/mast.ngt\n",
                                                "./results/mast.ngt\n./results/north/tower.ngt\n"));

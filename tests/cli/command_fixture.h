@@ -16,6 +16,10 @@
 inline const std::string kOneJoint =
     FileWith("TABLE:  \"JOINT COORDINATES\"\n   Joint=1   XorR=2\n");
 
+/// The lines that every output begins with, up to its path.
+inline const std::string kBeginningOfOutput =
+    ";" + std::string(75, '-') + "\n;  NORDA/Gen Text(NGT) File.\n";
+
 /// Calls the command in a folder of its own.
 class CommandTest : public testing::Test {
  protected:

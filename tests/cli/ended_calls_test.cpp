@@ -186,15 +186,50 @@ TEST_F(EndedCalls, OutputIsFoundUnfinishedByItsLastLine) {
       "s2k2ngt: next.ngt: found unfinished, as a call leaves it that is stopped or killed\n";
   for (const char* unfinished : {"", "*ENDDAT", "*ENDDATA\n\t1,     0", "; half a line"}) {
     SCOPED_TRACE(unfinished);
-    Write("next.ngt", unfinished);
+    Write("next.ngt", kBeginningOfOutput + unfinished);
     EXPECT_EQ(Call({"--quiet", "next.s2k"}).Err, found);
   }
   for (const std::string& whole : {std::string("*ENDDATA"), std::string("*ENDDATA\r\n"),
                                    std::string(1000, ';') + "\n*ENDDATA\n"}) {
     SCOPED_TRACE(whole);
-    Write("next.ngt", whole);
+    Write("next.ngt", kBeginningOfOutput + whole);
     EXPECT_EQ(Call({"--quiet", "next.s2k"}).Err, "");
   }
+}
+
+TEST_F(EndedCalls, OutputIsFoundUnfinishedWhereverItWasCutOff) {
+  Call({"next.s2k"});
+  const std::string whole = ReadFile(m_Folder.FileName("next.ngt"));
+  for (const std::size_t size :
+       {std::size_t{0}, std::size_t{1}, std::size_t{80}, whole.size() / 2, whole.size() - 1}) {
+    SCOPED_TRACE(size);
+    Write("next.ngt", whole.substr(0, size));
+    EXPECT_THAT(Call({"--quiet", "next.s2k"}).Err, HasSubstr("next.ngt: found unfinished"));
+  }
+}
+
+TEST_F(EndedCalls, OutputOfAnotherProgramIsNotSaidToBeUnfinished) {
+  for (const std::string& foreign :
+       {std::string("*NODE\n"), std::string("; half a line"), ";" + std::string(76, '-') + "\n",
+        ";" + std::string(75, '-') + "\n;  of another program\n"}) {
+    SCOPED_TRACE(foreign);
+    Write("next.ngt", foreign);
+    EXPECT_EQ(Call({"--quiet", "next.s2k"}).Err, "");
+  }
+}
+
+TEST_F(EndedCalls, UnfinishedOutputOfAStopStandsInTheReports) {
+  const CommandRun run =
+      CallWhileWriting({"--report", "lost.json", "--report", "lost.html", "large.s2k", "next.s2k"},
+                       [](pid_t process) { SignalAndWait(process, SIGINT); });
+  EXPECT_EQ(run.Status, 1);
+  const json report = json::parse(ReadFile(m_Folder.FileName("lost.json")));
+  EXPECT_EQ(report["files"][0]["verdict"], "stopped");
+  EXPECT_EQ(report["files"][0]["unfinished"], "large.ngt");
+  EXPECT_EQ(report["files"][1]["verdict"], "stopped");
+  EXPECT_EQ(report["files"][1]["unfinished"], nullptr);
+  EXPECT_THAT(ReadFile(m_Folder.FileName("lost.html")),
+              HasSubstr("<bdi>large.ngt</bdi> is left unfinished."));
 }
 
 }  // namespace
