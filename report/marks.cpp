@@ -1,6 +1,7 @@
 #include "marks.h"
 
 #include "html.h"
+#include "shapes.h"
 
 #include <algorithm>
 #include <array>
@@ -86,13 +87,15 @@ std::vector<Mark> MarksOf(const Drawing& drawing, const Account& account) {
   std::vector<Mark> marks;
   for (std::size_t number = 0; number < drawing.Elements.size(); ++number) {
     const DrawnElement& element = drawing.Elements[number];
-    if (element.Kind != ElementKind::RigidLink) {
+    if (element.Kind != ElementKind::RigidLink && IsDrawable(element, drawing)) {
       MarkIfNamed(false, number, element.Label, named.at(static_cast<std::size_t>(element.Kind)),
                   marks);
     }
   }
   for (std::size_t number = 0; number < drawing.Nodes.size(); ++number) {
-    MarkIfNamed(true, number, drawing.Nodes[number].Label, named.at(kJoint), marks);
+    if (IsDrawable(drawing.Nodes[number])) {
+      MarkIfNamed(true, number, drawing.Nodes[number].Label, named.at(kJoint), marks);
+    }
   }
   return marks;
 }

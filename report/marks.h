@@ -14,7 +14,7 @@ struct Mark {
   std::vector<const s2k2ngt::Reason*> Whys;
 };
 
-/// The marks of a drawing, elements first, in its order.
+/// The marks of what can be drawn, elements first, in the order of the drawing.
 std::vector<Mark> MarksOf(const s2k2ngt::Drawing& drawing, const s2k2ngt::Account& account);
 
 /// What is marked and why, for a tooltip.

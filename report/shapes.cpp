@@ -21,6 +21,12 @@ bool IsDrawable(const DrawnNode& node) {
          std::abs(node.Z) <= kFarthest;
 }
 
+bool IsDrawable(const DrawnElement& element, const Drawing& drawing) {
+  return !element.Nodes.empty() && std::ranges::all_of(element.Nodes, [&](std::uint32_t node) {
+    return IsDrawable(drawing.Nodes[node]);
+  });
+}
+
 namespace {
 
 /// Corners of a face by their places among the nodes of a solid; a face of three ends in kNone.
@@ -34,9 +40,7 @@ constexpr std::array<Face, 5> kFacesOfSix = {
 
 void AppendShapes(const Drawing& drawing, std::uint32_t number, std::vector<Shape>& shapes) {
   const DrawnElement& element = drawing.Elements[number];
-  if (element.Nodes.empty() || !std::ranges::all_of(element.Nodes, [&](std::uint32_t node) {
-        return IsDrawable(drawing.Nodes[node]);
-      })) {
+  if (!IsDrawable(element, drawing)) {
     return;
   }
   Shape shape{.Kind = element.Kind, .Element = number};

@@ -23,8 +23,10 @@ struct Shape {
 /// True when the node lies where it can be drawn.
 bool IsDrawable(const s2k2ngt::DrawnNode& node);
 
-/// The shapes of one element: of a solid all its faces. None if a node of it is not there, or
-/// cannot be drawn.
+/// True when all nodes of the element are there and can be drawn.
+bool IsDrawable(const s2k2ngt::DrawnElement& element, const s2k2ngt::Drawing& drawing);
+
+/// The shapes of one element: of a solid all its faces. None if it cannot be drawn.
 std::vector<Shape> ShapesOf(const s2k2ngt::Drawing& drawing, std::uint32_t element);
 
 /// The shapes of all elements, without the faces in which two solids meet, and of the joints that

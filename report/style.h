@@ -111,15 +111,22 @@ svg .support{fill:var(--paper);stroke:var(--soft);stroke-width:1.2px}
 svg .mark{stroke:#d55e00;stroke-width:3px;pointer-events:all}
 svg .face{fill:#d55e00;fill-opacity:.3;stroke-width:2.5px}
 svg circle.mark{stroke-width:2px}
+.numbers text{font-weight:600;fill:var(--bad);stroke:var(--box);stroke-width:4px;
+stroke-linejoin:round;paint-order:stroke}
+.marks{margin-top:1.2rem;font-size:.92rem;max-width:52rem}
+.marks li{padding:.15rem 0 .15rem 2rem;break-inside:avoid;overflow-wrap:anywhere}
+.marks b{float:left;margin-left:-2rem;color:var(--bad)}
+.marks+.note{margin-top:.5rem}
+@media (min-width:60rem){figure:only-child .numbers text{font-size:.7em}}
 @media (max-width:40rem){main{padding-top:1.5rem}h1,h2{font-size:1.4rem}h3{margin-top:2.4rem}
 .badge{vertical-align:.05em}th[scope=row]{min-width:10rem}th,td{padding:.4rem}
 .rows{columns:9rem;column-gap:1rem}svg .frame{stroke-width:.9px}
-svg .mark{stroke-width:2px}svg circle.mark{stroke-width:1.5px}}
+svg .mark{stroke-width:2px}svg circle.mark{stroke-width:1.5px}.numbers text{font-size:1.5em}}
 @media print{:root{--paper:#fff;--ink:#000;--soft:#444;--faint:#999;--line:#bbb;--box:#fff;
 --stripe:rgba(255,255,255,.55);--link:#000}
 body{font-size:10pt}main{max-width:none;padding:0}nav{display:none}
 h3{break-after:avoid}.wide{overflow:visible}tr{break-inside:avoid}
-.views{grid-template-columns:1fr 1fr}figure svg{max-height:9cm}
+.views{grid-template-columns:1fr 1fr}figure svg{max-height:9cm}.numbers text{font-size:1.3em}
 section.file+section.file,.wide+section.file{break-before:page;border-top:0;margin-top:0}
 a{text-decoration:none}}
 )";

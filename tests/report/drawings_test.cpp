@@ -342,6 +342,62 @@ TEST(DrawingsTest, SeveralReasonsOfAnElementStandInOneTitle) {
                         "reason.</title>"));
 }
 
+TEST(DrawingsTest, MarksHaveNumbersAndAListOfThem) {
+  Drawing drawing = NodesAt({{0, 0, 0}, {20, 0, 4}});
+  Add(ElementKind::Frame, {0, 1}, drawing);
+  const std::string html = DrawingsOf(drawing, With({"Joint=J2", "Joint=J1", "Frame=1"}));
+  // The picture is 1048 by 248 units. A number stands above its mark, at the upper edge below
+  // it, and at the sides towards the middle.
+  EXPECT_THAT(html, HasSubstr("<g class=\"numbers\" font-size=\"23\">"));
+  EXPECT_THAT(html,
+              HasSubstr("<text x=\"524\" y=\"124\" dy=\"-.4em\" text-anchor=\"middle\">1</text>"));
+  EXPECT_THAT(html,
+              HasSubstr("<text x=\"24\" y=\"224\" dy=\"-.4em\" text-anchor=\"start\">2</text>"));
+  EXPECT_THAT(html,
+              HasSubstr("<text x=\"1024\" y=\"24\" dy=\"1.2em\" text-anchor=\"end\">3</text>"));
+  EXPECT_THAT(html, HasSubstr("<ul class=\"marks\">\n"
+                              "<li><b>1</b> Frame 1, element 1: It is &lt;lost&gt;.</li>\n"
+                              "<li><b>2</b> Joint J1, node 1: It is &lt;lost&gt;.</li>\n"
+                              "<li><b>3</b> Joint J2, node 2: It is &lt;lost&gt;.</li>\n</ul>\n"));
+  EXPECT_THAT(html, Not(HasSubstr("see the lists above")));
+  EXPECT_THAT(DrawingsOf(drawing, {}), Not(HasSubstr("class=\"numbers\"")));
+  EXPECT_THAT(DrawingsOf(drawing, {}), Not(HasSubstr("class=\"marks\"")));
+}
+
+TEST(DrawingsTest, NumbersAtOnePlaceStandTogether) {
+  const Drawing drawing = NodesAt({{0, 0, 0}, {0, 0, 4}, {0, 0, 8}, {0, 0, 12}, {10, 5, 0}});
+  // In the plan, 1000 by 500 units, the joints of the column are one spot.
+  const std::string two = DrawingsOf(drawing, With({"Joint=J1", "Joint=J2"}));
+  EXPECT_THAT(two,
+              HasSubstr("<text x=\"24\" y=\"524\" dy=\"-.4em\" text-anchor=\"start\">1,2</text>"));
+  const std::string four =
+      DrawingsOf(drawing, With({"Joint=J1", "Joint=J2", "Joint=J3", "Joint=J4"}));
+  EXPECT_THAT(
+      four, HasSubstr("<text x=\"24\" y=\"524\" dy=\"-.4em\" text-anchor=\"start\">1,2,3…</text>"));
+}
+
+TEST(DrawingsTest, OnlyTheFirstTwentyMarksHaveNumbers) {
+  std::vector<std::string> labels;
+  for (int label = 1; label <= 21; ++label) {
+    labels.push_back("Area=" + std::to_string(label));
+  }
+  const std::string html = DrawingsOf(Mesh(200), With(labels));
+  EXPECT_THAT(html, HasSubstr("<li><b>20</b> Area 20, "));
+  EXPECT_THAT(html, Not(HasSubstr("<b>21</b>")));
+  EXPECT_THAT(html, HasSubstr("And <span class=\"n\" data-drawn=\"unnumbered\">1</span> more mark; "
+                              "see the lists above."));
+}
+
+TEST(DrawingsTest, WhatCannotBeDrawnHasNoMark) {
+  Drawing drawing = NodesAt({{0, 0, 0}, {20, 0, 4}, {1e30, 0, 0}});
+  Add(ElementKind::Frame, {0, 2}, drawing);
+  Add(ElementKind::Frame, {}, drawing);
+  Add(ElementKind::Frame, {0, 1}, drawing);
+  const std::string html = DrawingsOf(drawing, With({"Frame=1", "Frame=2", "Joint=J3", "Frame=3"}));
+  EXPECT_THAT(html, HasSubstr("\"mark\">1</span> touched by a loss"));
+  EXPECT_THAT(html, HasSubstr("<ul class=\"marks\">\n<li><b>1</b> Frame 3, "));
+}
+
 TEST(DrawingsTest, HostileLabelsAreEscapedAndCut) {
   Drawing drawing = NodesAt({{0, 0, 0}});
   drawing.Nodes[0].Label = "</title><script>\xFF" + std::string(300, 'x');
