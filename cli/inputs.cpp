@@ -2,6 +2,7 @@
 
 #include "common/files.h"
 #include "files_of_call.h"
+#include "target/lines_of_any_file.h"
 
 #include <s2k2ngt/converter.h>
 
@@ -129,9 +130,8 @@ std::vector<FileToConvert> ListFiles(const CommandOptions& options) {
 }
 
 bool IsUnfinished(const std::string& output) {
-  // The lines with which each output begins and ends.
-  const std::string head = ";" + std::string(75, '-') + "\n;  NORDA/Gen Text(NGT) File.\n";
-  constexpr std::string_view kEnd = "*ENDDATA";
+  const std::string head =
+      std::string(s2k2ngt::kRuleLine) + '\n' + std::string(s2k2ngt::kNameLine) + '\n';
   std::error_code noSuchFile;
   if (!std::filesystem::is_regular_file(NativePath(output), noSuchFile)) {
     return false;
@@ -158,5 +158,5 @@ bool IsUnfinished(const std::string& output) {
   while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) {
     text.remove_suffix(1);
   }
-  return !text.ends_with(kEnd);
+  return !text.ends_with(s2k2ngt::kLastLine);
 }

@@ -1,5 +1,7 @@
 #include "target/head.h"
 
+#include "target/lines_of_any_file.h"
+
 namespace s2k2ngt {
 namespace {
 
@@ -17,11 +19,10 @@ std::string TargetForce(Text sourceForce) {
 }  // namespace
 
 void WriteFileHead(const std::string& outputPath, LineWriter& out) {
-  const std::string rule = ";" + std::string(75, '-');
-  out.WriteLine("%s\n", rule);
-  out.WriteLine(";  NORDA/Gen Text(NGT) File.\n");
+  out.WriteLine("%s\n", kRuleLine);
+  out.WriteLine("%s\n", kNameLine);
   out.WriteLine(";  %s\n", outputPath);
-  out.WriteLine("%s\n\n", rule);
+  out.WriteLine("%s\n\n", kRuleLine);
 }
 
 bool WriteVersionAndUnit(Conversion& run, LineWriter& out) {
@@ -33,6 +34,6 @@ bool WriteVersionAndUnit(Conversion& run, LineWriter& out) {
   return true;
 }
 
-void WriteFileEnd(LineWriter& out) { out.WriteLine("*ENDDATA"); }
+void WriteFileEnd(LineWriter& out) { out.WriteLine("%s", kLastLine); }
 
 }  // namespace s2k2ngt
