@@ -2,6 +2,7 @@
 
 #include "common/files.h"
 
+#include <cstdint>
 #include <string>
 #include <system_error>
 
@@ -48,7 +49,7 @@ bool AreTheSame(const std::string& input, const std::string& output) {
 
 }  // namespace
 
-FilesOfCall::FilesOfCall(const std::vector<std::string>& inputs) {
+FilesOfCall::FilesOfCall(const std::vector<std::string>& inputs) : m_NamesOfInputs(inputs) {
   for (const std::string& input : inputs) {
     m_Inputs.insert(TrueName(input));
   }
@@ -63,9 +64,33 @@ std::optional<std::string> FilesOfCall::WhyNotWritten(const std::string& input,
   if (m_Inputs.contains(name)) {
     return "the output would replace the input " + output;
   }
+  if (std::optional<std::string> reason = WhyNotReplaced(output)) {
+    return reason;
+  }
   const auto [earlier, isNew] = m_InputOfOutput.try_emplace(name, input);
   if (!isNew && TrueName(earlier->second) != TrueName(input)) {
     return "the output would replace that of " + earlier->second;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> FilesOfCall::WhyNotReplaced(const std::string& output) const {
+  std::error_code noSuchFile;
+  const std::uintmax_t names = std::filesystem::hard_link_count(NativePath(output), noSuchFile);
+  if (noSuchFile || names < 2) {
+    return std::nullopt;  // as of nearly all
+  }
+  for (const std::string& input : m_NamesOfInputs) {
+    if (AreTheSame(input, output)) {
+      return "the output would replace the input " + input;
+    }
+  }
+  const std::filesystem::path name = TrueName(output);
+  for (const auto& [earlier, input] : m_InputOfOutput) {
+    std::error_code unknown;
+    if (earlier != name && std::filesystem::equivalent(earlier, NativePath(output), unknown)) {
+      return "the output would replace that of " + input;
+    }
   }
   return std::nullopt;
 }

@@ -20,6 +20,10 @@ class FilesOfCall {
   bool IsWritten(const std::string& output) const;
 
  private:
+  /// Why the file that the output replaces, under another of its names, is one of the call's.
+  std::optional<std::string> WhyNotReplaced(const std::string& output) const;
+
+  std::vector<std::string> m_NamesOfInputs;
   std::set<std::filesystem::path> m_Inputs;
   std::map<std::filesystem::path, std::string> m_InputOfOutput;
 };

@@ -19,9 +19,16 @@ namespace {
 
 bool IsPage(const std::string& name) { return name.ends_with(".html"); }
 
-/// Where a report is written until it is whole, so that an earlier one stays until then.
+/// Where a report is written until it is whole, so that an earlier one stays until then: a name
+/// that nothing has yet.
 std::filesystem::path UnfinishedName(const std::string& name) {
-  return s2k2ngt::NativePath(name + ".part");
+  std::filesystem::path path = s2k2ngt::NativePath(name + ".part");
+  std::error_code unknown;
+  for (int number = 2; std::filesystem::exists(std::filesystem::symlink_status(path, unknown));
+       ++number) {
+    path = s2k2ngt::NativePath(name + ".part" + std::to_string(number));
+  }
+  return path;
 }
 
 std::string SystemError() { return std::strerror(errno); }
@@ -85,9 +92,10 @@ std::optional<std::string> WhyNotWritable(const std::string& report) {
   if (std::filesystem::is_directory(s2k2ngt::NativePath(report), unknown)) {
     return "the report would replace a folder";
   }
-  const bool isWritable = std::ofstream(UnfinishedName(report)).is_open();
+  const std::filesystem::path unfinished = UnfinishedName(report);
+  const bool isWritable = std::ofstream(unfinished).is_open();
   const std::string reason = SystemError();
-  std::filesystem::remove(UnfinishedName(report), unknown);
+  std::filesystem::remove(unfinished, unknown);
   return isWritable ? std::nullopt : std::optional("cannot write the report: " + reason);
 }
 

@@ -216,16 +216,21 @@ void Workers::BeWorker(const FileToConvert& file, pid_t parent, int out, int err
 /// Reads what the running workers print, and takes note of those that have ended.
 void Workers::Await() {
   constexpr int kMilliseconds = 100;  // a signal may come just before the system waits
-  std::vector<pollfd> streams;
-  for (const Worker& worker : m_Running) {
-    streams.push_back({worker.Out.ReadEnd, POLLIN, 0});
-    streams.push_back({worker.Err.ReadEnd, POLLIN, 0});
+  // The system takes no more entries than files may be open, so that closed ones must not be there.
+  std::vector<Captured*> streams;
+  std::vector<pollfd> polled;
+  for (Worker& worker : m_Running) {
+    for (Captured* const stream : {&worker.Out, &worker.Err}) {
+      if (stream->ReadEnd != -1) {
+        streams.push_back(stream);
+        polled.push_back({stream->ReadEnd, POLLIN, 0});
+      }
+    }
   }
-  if (poll(streams.data(), streams.size(), kMilliseconds) > 0) {
-    for (std::size_t index = 0; index < streams.size(); ++index) {
-      Worker& worker = m_Running[index / 2];
-      if (streams[index].revents != 0) {
-        (index % 2 == 0 ? worker.Out : worker.Err).Read();
+  if (poll(polled.data(), polled.size(), kMilliseconds) > 0) {
+    for (std::size_t index = 0; index < polled.size(); ++index) {
+      if (polled[index].revents != 0) {
+        streams[index]->Read();
       }
     }
   }

@@ -165,8 +165,9 @@ std::vector<Section> LossSectionsOf(const ordered_json& file, std::size_t number
       {"refused", "Refused", "Rows of tables and kinds that the host has no like for.", "refused",
        true},
       {"unseen", "Never looked at", "Rows of tables that nothing reads.", "not_looked_at", true},
-      {"no-loss", "No loss", "Rows that did not go over, by which no part of the model is lost.",
-       "", false},
+      {"no-loss", "No loss",
+       "Rows that were left out or written otherwise, by which no part of the model is lost.", "",
+       false},
   }};
   const Losses losses(file, number, reasons);
   std::vector<Section> sections;

@@ -56,7 +56,7 @@ struct ReasonCount {
 
 /// The rows below one title of the source file.
 struct TableAccount {
-  std::string Title;       ///< as it stands; in parentheses for lines that are in no table
+  std::string Title;       ///< as it stands; in parentheses for what is in no table, or missing
   std::uint64_t Line = 0;  ///< of the title, from 1
   int TableId = 0;         ///< by which the conversion knows the table; 0 for an unknown title
   /// The key of the message that the table calls for; empty for most.

@@ -74,6 +74,13 @@ class Ledger {
     }
   }
 
+  /// True when the file has a table of the record.
+  template <class Record>
+  bool Has() const {
+    const std::size_t kind = KindOf<Record>();
+    return kind < m_Kinds.size() && !m_Kinds[kind].empty();
+  }
+
   /// The account of all that was noted. Rows without a reason are converted if the run has come to
   /// its end, and else not looked at.
   Account MakeAccount(bool runIsWhole);

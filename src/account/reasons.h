@@ -65,10 +65,23 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::NotLookedAt("outside-of-tables",
                          "The line stands before the first table, between two or behind the end.",
                          "Look whether it belongs to a table, and give that its title."),
+    reasons::Changed("units-missing",
+                     "The file has no PROGRAM CONTROL table: tons and metres are taken as units.",
+                     "Export the model with this table, or set the units in the host."),
+    reasons::Reworded("freedoms-missing",
+                      "The file has no table of active degrees of freedom: all are taken.",
+                      "Look whether the model is meant to be in a plane."),
     reasons::NotLookedAt("end-missing",
                          "The file does not end in END TABLE DATA. What should stand there, if "
                          "anything, is missing.",
                          "Export the model again, or copy the file again if it was cut off."),
+    reasons::Changed("number-read-in-part",
+                     "A value that is to be a number is none as a whole: what stands before the "
+                     "first sign that is of no number counts, or 0.",
+                     "Write numbers with a point and without units, and convert again."),
+    reasons::Changed("neither-yes-nor-no",
+                     "A value that is to be Yes or No is another word, and counts as No.",
+                     "Write Yes or No in this form, and convert again."),
     reasons::Changed("value-of-unknown-name",
                      "The row states something by a name that is not known for its table.",
                      "Look whether it matters to the structure, and enter it in the host."),
@@ -146,10 +159,19 @@ inline constexpr auto kReasons = std::to_array<Reason>({
     reasons::Dropped("row-of-same-name",
                      "Another row of the same name is taken, and of each name one row alone.",
                      "Look whether the rows say the same."),
+    reasons::Changed(
+        "name-used-twice",
+        "Another row of the table has the same name. Both go over, and what names them "
+        "is taken for one of the two.",
+        "Give each its own name in the source model, or delete one."),
     reasons::Changed("joint-number-shared",
                      "Another joint has the same label, or one that is read as the same number: "
                      "both are nodes of one number.",
                      "Give each joint a label of its own, without zeros in front."),
+    reasons::Changed("joint-coordinate-rounded",
+                     "The joint lies so far from the origin that the six digits of the output move "
+                     "it by a part of the model's size that may matter.",
+                     "Move the model towards the origin in the source program, and convert again."),
     reasons::Changed("joint-coordinates-differ",
                      "Its global coordinates are not those of its own system. SpecialJt chooses "
                      "which are written: the global ones, 0 where they are not stated, or the "
@@ -686,6 +708,11 @@ inline constexpr auto kReasons = std::to_array<Reason>({
         "Its distances are neither relative nor absolute: it is written with distances "
         "of 0.",
         "Enter the distances of the load in the host."),
+    reasons::Dropped(
+        "span-not-stated",
+        "Its relative distances are 0 or not stated, and so it is spread over a length "
+        "of nothing.",
+        "State both distances of the load, and convert again."),
     reasons::Redundant("span-of-nothing", "It is spread over a length of nothing.",
                        "Look whether the load was meant to be a point load."),
     reasons::Dropped("frame-without-length",
@@ -857,6 +884,8 @@ inline constexpr auto kReasons = std::to_array<Reason>({
                      "Another number of modes is written: at most one for each element, or those "
                      "of its starting vectors.",
                      "Set the number of modes in the host."),
+    reasons::Redundant("analysis-settings", "It is no analysis case: it holds settings.",
+                       "There is nothing to do for the analysis."),
     reasons::Changed("modes-of-another-case",
                      "It goes by the modes of another case than the one that is written: the host "
                      "has one eigenvalue analysis.",

@@ -202,7 +202,8 @@ void CloseAnalysisCases(Conversion& run) {
   for (const auto [key, analysis] : run.Source.Rows<T_ANAL_D>().Entries()) {
     const Kind* const kind = KindOf(analysis);
     if (kind == nullptr) {
-      run.Accounts.Note<T_ANAL_D>(key, "analysis-case-of-other-kind");
+      run.Accounts.Note<T_ANAL_D>(key, analysis.Type.empty() ? Why("analysis-settings")
+                                                             : Why("analysis-case-of-other-kind"));
       continue;
     }
     if (const Lost why = kind->WhyLost(run, analysis)) {

@@ -141,11 +141,6 @@ void CloseTimeHistories(Conversion& run) {
   CloseParameters<T_MDH6_D, T_MDH1_D>(run);
   CloseParameters<T_DRH5_D, T_DRH1_D>(run);
   CloseMethods(run);
-  for (const auto [key, row] : run.Source.Rows<T_DRH5_D>().Entries()) {
-    if (!row.GeoNonLin.empty() && row.GeoNonLin != "None") {
-      run.Accounts.Note<T_DRH5_D>(key, "geometric-nonlinearity");
-    }
-  }
 }
 
 }  // namespace s2k2ngt

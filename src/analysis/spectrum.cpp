@@ -1,5 +1,6 @@
 #include "analysis/spectrum.h"
 
+#include "analysis/cases.h"
 #include "analysis/structure.h"
 #include "common/value_map.h"
 #include "target/wrapped_list.h"
@@ -287,6 +288,9 @@ void CloseDefinitions(Conversion& run) {
                                            ? Why("definition-as-first")
                                            : Why("definition-not-first"));
       continue;
+    }
+    if (!definition.Case.empty() && !IsAnalysed(run, definition.Case, kResponseSpectrum)) {
+      run.Accounts.Note<T_RSP1_D>(key, "definition-of-another-case");
     }
     if (definition.ConstDamp != definition.TargetDamping()) {
       run.Accounts.Note<T_RSP1_D>(key, "spectrum-damping-lost");

@@ -102,6 +102,7 @@ inline constexpr RowKey<T_FRSZ_D> kRowKeys<T_FRSZ_D>[] = {Unread{"Name="}, Unrea
 /// Definition of a spectrum case: how modes and directions are combined, and the damping.
 struct T_RSP1_D {
   static constexpr Text kTable = "T_RSP1_D";
+  Text Case;        // for the account, as are all but the first way of combining and its damping
   Text ModalCombo;  // "CQC", "SRSS" and others
   double ConstDamp = 0.0;
   Text DirCombo;     // of the directions
@@ -116,7 +117,7 @@ struct T_RSP1_D {
 
 template <>
 inline constexpr RowKey<T_RSP1_D> kRowKeys<T_RSP1_D>[] = {
-    Unread{"Case="},
+    Noted{"Case=", &T_RSP1_D::Case},
     {"ModalCombo=", &T_RSP1_D::ModalCombo},
     Noted{"DirCombo=", &T_RSP1_D::DirCombo},
     Noted{"GMCf1=", &T_RSP1_D::GMCf1},

@@ -113,13 +113,12 @@ struct T_DRH5_D {
   double DTMin = 0.0;
   double ItConvTol = 0.0;
   std::int32_t MaxIter = 1;
-  Text GeoNonLin;  // "None", or a geometric nonlinearity, which the output cannot state
 };
 
 template <>
 inline constexpr RowKey<T_DRH5_D> kRowKeys<T_DRH5_D>[] = {
     {"Case=", &T_DRH5_D::Case},
-    Noted{"GeoNonLin=", &T_DRH5_D::GeoNonLin},
+    LostUnless{"GeoNonLin=", "None", "geometric-nonlinearity"},
     {"DTMax=", &T_DRH5_D::DTMax},
     {"DTMin=", &T_DRH5_D::DTMin},
     {"ItConvTol=", &T_DRH5_D::ItConvTol},

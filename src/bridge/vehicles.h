@@ -22,7 +22,6 @@ struct T_BLSV_D {
   Text VehName;
   Text Type;
   double ScaleFactor = 0.0;
-  double DynAllow = 0.0;  // for the account
 
   /// Where the scale factor stands in the type; nothing where it has no place. Meant so: an "n" in
   /// front is no place for it, and one in "UICn" is.
@@ -33,10 +32,11 @@ struct T_BLSV_D {
 };
 
 template <>
-inline constexpr RowKey<T_BLSV_D> kRowKeys<T_BLSV_D>[] = {{"VehName=", &T_BLSV_D::VehName},
-                                                          {"Type=", &T_BLSV_D::Type},
-                                                          {"ScaleFactor=", &T_BLSV_D::ScaleFactor},
-                                                          Noted{"DynAllow=", &T_BLSV_D::DynAllow}};
+inline constexpr RowKey<T_BLSV_D> kRowKeys<T_BLSV_D>[] = {
+    {"VehName=", &T_BLSV_D::VehName},
+    {"Type=", &T_BLSV_D::Type},
+    {"ScaleFactor=", &T_BLSV_D::ScaleFactor},
+    LostUnless{"DynAllow=", "0", "vehicle-dynamic-allowance"}};
 
 /// A general vehicle: its uniform loads and the axles at its ends.
 struct T_BLGV1_D {
@@ -89,14 +89,13 @@ struct T_BLVC_D {
   static constexpr Text kTable = "T_BLVC_D";
   Text VehClass;
   Text VehName;
-  double ScaleFactor = 1.0;  // for the account
 };
 
 template <>
 inline constexpr RowKey<T_BLVC_D> kRowKeys<T_BLVC_D>[] = {
     {"VehClass=", &T_BLVC_D::VehClass},
     {"VehName=", &T_BLVC_D::VehName},
-    Noted{"ScaleFactor=", &T_BLVC_D::ScaleFactor}};
+    LostUnless{"ScaleFactor=", "1", "vehicle-scale-factor"}};
 
 // ---- Target records ----
 

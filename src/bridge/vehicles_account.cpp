@@ -30,9 +30,6 @@ void CloseStandardVehicles(Conversion& run) {
     if (LosesScale(vehicle)) {
       run.Accounts.Note<T_BLSV_D>(key, "vehicle-scale-factor");
     }
-    if (vehicle.DynAllow != 0.0) {
-      run.Accounts.Note<T_BLSV_D>(key, "vehicle-dynamic-allowance");
-    }
     const auto target = written.FirstWith<&T_NGT_VHCL_D::VehName>(vehicle.VehName);
     if (target && target->Value.NAME != vehicle.VehName) {
       run.Accounts.Note<T_BLSV_D>(key, "vehicle-named-by-type");
@@ -106,8 +103,6 @@ void CloseVehicleClasses(Conversion& run) {
       run.Accounts.Note<T_BLVC_D>(key, "class-without-name");
     } else if (!IsWritten(run, row.VehName)) {
       run.Accounts.Note<T_BLVC_D>(key, "class-vehicle-missing");
-    } else if (row.ScaleFactor != 1.0) {
-      run.Accounts.Note<T_BLVC_D>(key, "vehicle-scale-factor");
     }
     if (classes.AllWith<&T_NGT_VCLS_D::NAME>(row.VehClass).size() > 1) {
       run.Accounts.Note<T_BLVC_D>(key, "written-in-parts");

@@ -1,5 +1,6 @@
 #include "frames/elements.h"
 
+#include "account/shared_names.h"
 #include "frames/materials.h"
 #include "frames/nonprismatic_materials.h"
 #include "frames/sections.h"
@@ -190,14 +191,8 @@ namespace {
 /// Notes that an end of a frame is a joint that is not there. `iNode` is the number that the output
 /// has for it.
 void NoteEnd(Conversion& run, std::uint32_t key, Text joint, std::int32_t iNode) {
-  const auto& joints = run.Source.Rows<T_JTCD_D>();
-  bool isThere = iNode != 0;
-  if (run.Target.NodeLabelsNumeric) {
-    // Joints are numbered from 1 as a rule.
-    const T_JTCD_D* const likely = joints.Find(static_cast<std::uint32_t>(iNode));
-    isThere = (likely != nullptr && likely->Joint == joint) ||
-              joints.FirstWith<&T_JTCD_D::Joint>(joint).has_value();
-  }
+  const bool isThere =
+      run.Target.NodeLabelsNumeric ? HasJoint(run.Source, joint, iNode) : iNode != 0;
   if (!isThere) {
     run.Accounts.Note<T_CNFR_D>(key, "end-or-corner-unknown");
   }
@@ -288,9 +283,6 @@ void NoteTypicalAxes(Conversion& run, std::uint32_t key, const T_FRTP_D& row) {
     run.Accounts.Note<T_FRTP_D>(key, "row-of-same-name");
     return;
   }
-  if (row.MirrorAbt2 || row.MirrorAbt3) {
-    run.Accounts.Note<T_FRTP_D>(key, "frame-mirrored");
-  }
   if (row.AdvanceAxes && !run.Source.Rows<T_FRAV_D>().FirstWith<&T_FRAV_D::Frame>(row.Frame)) {
     run.Accounts.Note<T_FRTP_D>(key, "advanced-axes-missing");
   }
@@ -340,8 +332,8 @@ void ForEachRow(Conversion& run, void (*note)(Conversion& run, std::uint32_t key
 }  // namespace
 
 void CloseFrames(Conversion& run) {
+  NoteSharedNames<&T_CNFR_D::Frame, T_CNFR_D>(run);
   NoteFramesWithoutSection(run);
-  NoteOwnMaterials<T_FRSC_D>(run);
   ForEachRow<T_FRSC_D>(run, NoteAssignment);
   ForEachRow<T_FRTP_D>(run, NoteTypicalAxes);
   ForEachRow<T_FRAV_D>(run, NoteAdvancedAxes);

@@ -36,14 +36,13 @@ struct T_FRSC_D {
   static constexpr Text kTable = "T_FRSC_D";
   Text Frame;
   Text AnalSect;
-  Text MatProp;  // "Default" for that of the section
 };
 
 template <>
 inline constexpr RowKey<T_FRSC_D> kRowKeys<T_FRSC_D>[] = {
     {"Frame=", &T_FRSC_D::Frame}, Unread{"SectionType="},
     Unread{"AutoSelect="},        {"AnalSect=", &T_FRSC_D::AnalSect},
-    Unread{"DesignSect="},        Noted{"MatProp=", &T_FRSC_D::MatProp}};
+    Unread{"DesignSect="},        LostUnless{"MatProp=", "Default", "material-of-assignment"}};
 
 /// The name of a frame's section; nothing for a frame without an assignment row.
 std::optional<Text> SectionNameOf(CModel& model, Text frame);
@@ -53,8 +52,6 @@ struct T_FRTP_D {
   static constexpr Text kTable = "T_FRTP_D";
   Text Frame;
   double Angle = 0.0;  // of the section about the frame's axis, degrees
-  bool MirrorAbt2 = false;
-  bool MirrorAbt3 = false;
   bool AdvanceAxes = false;
 };
 
@@ -62,8 +59,8 @@ template <>
 inline constexpr RowKey<T_FRTP_D> kRowKeys<T_FRTP_D>[] = {
     {"Frame=", &T_FRTP_D::Frame},
     {"Angle=", &T_FRTP_D::Angle},
-    Noted{"MirrorAbt2=", &T_FRTP_D::MirrorAbt2},
-    Noted{"MirrorAbt3=", &T_FRTP_D::MirrorAbt3},
+    LostUnless{"MirrorAbt2=", "No", "frame-mirrored"},
+    LostUnless{"MirrorAbt3=", "No", "frame-mirrored"},
     {"AdvanceAxes=", &T_FRTP_D::AdvanceAxes}};
 
 /// Advanced local axes of a frame: the plane that two of its axes span. The component of the plane

@@ -1,5 +1,6 @@
 #include "frames/end_conditions.h"
 
+#include "account/shared_names.h"
 #include "frames/elements.h"
 
 #include <algorithm>
@@ -277,9 +278,6 @@ void NoteEndLengths(Conversion& run) {
     if (HasNoEndLength(row)) {
       continue;
     }
-    if (row.RigidFactor != 0.0) {
-      run.Accounts.Note<T_FROF_D>(key, "rigid-factor");
-    }
     if (const auto why = WhyNoElement(run, row.Frame, key)) {
       run.Accounts.Note<T_FROF_D>(key, *why);
     }
@@ -297,6 +295,7 @@ void NoteInsertionPoints(Conversion& run) {
 }  // namespace
 
 void CloseEndConditions(Conversion& run) {
+  NoteSharedNames<&T_FRGN_D::Frame, T_FRGN_D>(run);
   NoteReleases(run);
   for (const auto [key, row] : run.Source.Rows<T_FRPF_D>().Entries()) {
     NotePartialFixity(run, key, row);

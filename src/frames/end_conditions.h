@@ -73,7 +73,6 @@ struct T_FROF_D {
   Text Frame;
   double LengthI = 0.0;
   double LengthJ = 0.0;
-  double RigidFactor = 0.0;
 };
 
 template <>
@@ -82,7 +81,7 @@ inline constexpr RowKey<T_FROF_D> kRowKeys<T_FROF_D>[] = {
     Unread{"Type="},
     {"LengthI=", &T_FROF_D::LengthI},
     {"LengthJ=", &T_FROF_D::LengthJ},
-    Noted{"RigidFactor=", &T_FROF_D::RigidFactor}};
+    LostUnless{"RigidFactor=", "0", "rigid-factor"}};
 
 /// Insertion point of a frame: where its axis runs in the section, and joint offsets.
 struct T_FRIP_D {

@@ -1,5 +1,6 @@
 #include "frames/materials.h"
 
+#include "account/shared_names.h"
 #include "analysis/structure.h"
 
 #include <cmath>
@@ -210,6 +211,7 @@ bool IsMassOfWeight(Conversion& run, const T_MTGN_D& material) {
 }  // namespace
 
 void CloseMaterials(Conversion& run) {
+  NoteSharedNames<&T_MTGN_D::Material, T_MTGN_D>(run);
   for (const auto [key, row] : run.Source.Rows<T_MTGN_D>().Entries()) {
     if (row.UnitMass >= 0.0 && !IsMassOfWeight(run, row)) {
       run.Accounts.Note<T_MTGN_D>(key, "mass-unlike-weight");

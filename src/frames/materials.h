@@ -126,16 +126,6 @@ struct T_NGT_MATL_D {
 
 bool ConvertMaterials(Conversion& run);
 
-/// Notes the assignments that state a material of their own, which does not go over.
-template <class Assignment>
-void NoteOwnMaterials(Conversion& run) {
-  for (const auto [key, row] : run.Source.Rows<Assignment>().Entries()) {
-    if (!row.MatProp.empty() && row.MatProp != "Default") {
-      run.Accounts.Note<Assignment>(key, "material-of-assignment");
-    }
-  }
-}
-
 // ---- Output ----
 
 /// Writes *MATERIAL.

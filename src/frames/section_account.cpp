@@ -1,3 +1,4 @@
+#include "account/shared_names.h"
 #include "frames/elements.h"
 #include "frames/end_conditions.h"
 #include "frames/sections.h"
@@ -37,9 +38,6 @@ void NoteEnds(Conversion& run, std::uint32_t key, const T_FRSG_D& source,
 
 /// Notes modifiers for which the target has no place.
 void NoteModifiers(Conversion& run, std::uint32_t key, const T_FRSG_D& source) {
-  if (source.MMod != 1.0) {
-    run.Accounts.Note<T_FRSG_D>(key, "section-mass-modifier");
-  }
   const std::array<double, 7> modifiers = {source.AMod,  source.A2Mod, source.A3Mod, source.JMod,
                                            source.I3Mod, source.I2Mod, source.WMod};
   // One that is not stated is 0.
@@ -122,6 +120,7 @@ void NoteCardinalPointTaken(Conversion& run) {
 }  // namespace
 
 void CloseSections(Conversion& run) {
+  NoteSharedNames<&T_FRSG_D::SectionName, T_FRSG_D>(run);
   NoteSections(run);
   NoteSegmentsOfNoSection(run);
   const auto& points = run.Source.Rows<T_FRIP_D>();

@@ -32,19 +32,14 @@ void NoteMembers(Conversion& run, Text constraint, Why why) {
   }
 }
 
-/// Notes what a definition that is written states beyond its link.
+/// Notes of a definition that is written what its link says otherwise.
 template <class Definition>
-void NoteDefinition(Conversion& run, std::uint32_t key, const Definition& definition) {
-  if (IsUserSystem(definition.CoordSys)) {
-    run.Accounts.Note<Definition>(key, "coordinate-system-ignored");
-  }
-  if constexpr (std::same_as<Definition, T_CDDP_D>) {
-    if (definition.MultiLevel) {
-      run.Accounts.Note<T_CDDP_D>(key, "diaphragm-of-many-levels");
-    }
+void NoteDefinition(Conversion& run, std::uint32_t key) {
+  if constexpr (std::same_as<Definition, T_CDDP_D> || std::same_as<Definition, T_CDBD_D>) {
+    return;
   } else if constexpr (std::derived_from<Definition, ConstraintByAxis>) {
     run.Accounts.Note<Definition>(key, "constraint-as-diaphragm");
-  } else if constexpr (!std::same_as<Definition, T_CDBD_D>) {
+  } else {
     run.Accounts.Note<Definition>(key, "constraint-as-rigid-body");
   }
 }
@@ -137,7 +132,7 @@ std::optional<T_NGT_RLNK_D> LinkOf(Conversion& run, Text constraint, Master mast
       return std::nullopt;
     }
     link->DOF = *directions;
-    NoteDefinition(run, found->Key, found->Value);
+    NoteDefinition<Definition>(run, found->Key);
   }
   return link;
 }

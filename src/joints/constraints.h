@@ -28,14 +28,13 @@ inline constexpr RowKey<T_JTCA_D> kRowKeys<T_JTCA_D>[] = {{"Joint=", &T_JTCA_D::
 /// Definition of a constraint about an axis: "X", "Y", "Z", or one that the source program finds.
 struct ConstraintByAxis {
   Text Name;
-  Text CoordSys;  // for the account
   Text Axis;
 };
 
 template <std::derived_from<ConstraintByAxis> Record>
 inline constexpr RowKey<Record> kRowKeys<Record>[] = {
     {"Name=", &ConstraintByAxis::Name},
-    Noted<Record, Text>{"CoordSys=", &ConstraintByAxis::CoordSys},
+    LostUnless{"CoordSys=", "GLOBAL", "coordinate-system-ignored"},
     {"Axis=", &ConstraintByAxis::Axis}};
 
 struct T_CDBM_D : ConstraintByAxis {  // beam
@@ -43,14 +42,13 @@ struct T_CDBM_D : ConstraintByAxis {  // beam
 };
 struct T_CDDP_D : ConstraintByAxis {  // diaphragm
   static constexpr Text kTable = "T_CDDP_D";
-  bool MultiLevel = false;  // for the account
 };
 template <>
 inline constexpr RowKey<T_CDDP_D> kRowKeys<T_CDDP_D>[] = {
     {"Name=", &T_CDDP_D::Name},
-    Noted<T_CDDP_D, Text>{"CoordSys=", &T_CDDP_D::CoordSys},
+    LostUnless{"CoordSys=", "GLOBAL", "coordinate-system-ignored"},
     {"Axis=", &T_CDDP_D::Axis},
-    Noted{"MultiLevel=", &T_CDDP_D::MultiLevel}};
+    LostUnless{"MultiLevel=", "No", "diaphragm-of-many-levels"}};
 struct T_CDPL_D : ConstraintByAxis {  // plate
   static constexpr Text kTable = "T_CDPL_D";
 };
@@ -61,7 +59,6 @@ struct T_CDRD_D : ConstraintByAxis {  // rod
 /// Definition of a constraint of the directions that it names.
 struct ConstraintByFlags {
   Text Name;
-  Text CoordSys;  // for the account
   bool UX = false;
   bool UY = false;
   bool UZ = false;
@@ -73,7 +70,7 @@ struct ConstraintByFlags {
 template <std::derived_from<ConstraintByFlags> Record>
 inline constexpr RowKey<Record> kRowKeys<Record>[] = {
     {"Name=", &ConstraintByFlags::Name},
-    Noted<Record, Text>{"CoordSys=", &ConstraintByFlags::CoordSys},
+    LostUnless{"CoordSys=", "GLOBAL", "coordinate-system-ignored"},
     {"UX=", &ConstraintByFlags::UX},
     {"UY=", &ConstraintByFlags::UY},
     {"UZ=", &ConstraintByFlags::UZ},

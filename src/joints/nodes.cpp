@@ -3,6 +3,8 @@
 #include "common/numbers.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -113,6 +115,47 @@ bool WriteNodes(Conversion& run, LineWriter& out) {
 
 namespace {
 
+/// What a number becomes by the six digits of the output.
+double Rounded(double value) {
+  std::array<char, kRealSize> text{};
+  return ParseReal(
+      Text(text.data(), static_cast<std::size_t>(FormatReal(text.data(), value) - text.data())));
+}
+
+/// Notes joints that the rounding moves by a part of the model's size that may matter.
+void NoteRounded(Conversion& run) {
+  constexpr double kPartOfSize = 1e-4;
+  constexpr double kMostByDigits = 5e-6;  // of the number
+  constexpr std::array kAxes = {&Point::X, &Point::Y, &Point::Z};
+  double farthest = 0.0;
+  Point least = NodeCoordinates(RecordOr(run.Source.Rows<T_JTCD_D>().Find(1), T_JTCD_D{}));
+  Point most = least;
+  const auto& joints = run.Source.Rows<T_JTCD_D>();
+  for (const auto [key, joint] : joints.Entries()) {
+    const Point at = NodeCoordinates(joint);
+    for (const auto axis : kAxes) {
+      least.*axis = std::min(least.*axis, at.*axis);
+      most.*axis = std::max(most.*axis, at.*axis);
+      farthest = std::max(farthest, std::abs(at.*axis));
+    }
+  }
+  double size = 0.0;
+  for (const auto axis : kAxes) {
+    size = std::max(size, most.*axis - least.*axis);
+  }
+  if (!(farthest * kMostByDigits > size * kPartOfSize)) {
+    return;  // as of nearly all models
+  }
+  for (const auto [key, joint] : joints.Entries()) {
+    const Point at = NodeCoordinates(joint);
+    if (std::ranges::any_of(kAxes, [&](auto axis) {
+          return std::abs(Rounded(at.*axis) - at.*axis) > size * kPartOfSize;
+        })) {
+      run.Accounts.Note<T_JTCD_D>(key, "joint-coordinate-rounded");
+    }
+  }
+}
+
 /// True when the global coordinates were to be written and are not, or are and were not stated.
 bool HasDoubtfulCoordinates(const T_JTCD_D& joint) {
   return joint.SpecialJt != joint.StatesGlobal && StatedGlobals(joint) != OwnCoordinates(joint);
@@ -133,10 +176,6 @@ void NoteSharedNumbers(Conversion& run, std::vector<std::int32_t> numbers) {
   }
 }
 
-bool HasJoint(CModel& model, Text label) {
-  return model.Rows<T_JTCD_D>().FirstWith<&T_JTCD_D::Joint>(label).has_value();
-}
-
 }  // namespace
 
 void CloseJoints(Conversion& run) {
@@ -150,15 +189,26 @@ void CloseJoints(Conversion& run) {
     }
   }
   NoteSharedNumbers(run, std::move(numbers));
+  NoteRounded(run);
+}
+
+bool HasJoint(CModel& model, Text label, std::int32_t likelyKey) {
+  const auto& joints = model.Rows<T_JTCD_D>();
+  const T_JTCD_D* const likely = joints.Find(static_cast<std::uint32_t>(likelyKey));
+  if (likely != nullptr && likely->Joint == label) {
+    return true;
+  }
+  return joints.FirstWith<&T_JTCD_D::Joint>(label).has_value();
 }
 
 std::optional<Why> WhyNotJoint(Conversion& run, Text joint) {
-  if (HasJoint(run.Source, joint)) {
+  const std::int32_t number = ParseInteger(joint);
+  if (HasJoint(run.Source, joint, number)) {
     return std::nullopt;
   }
   // A label such as "12A" is read as the number 12, which may be that of another.
   const bool isAnother =
-      run.Target.NodeLabelsNumeric && HasJoint(run.Source, std::to_string(ParseInteger(joint)));
+      run.Target.NodeLabelsNumeric && HasJoint(run.Source, std::to_string(number), number);
   return isAnother ? Why("joint-taken-from-another") : Why("joint-not-there");
 }
 

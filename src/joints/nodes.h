@@ -87,6 +87,10 @@ bool WriteNodes(Conversion& run, LineWriter& out);
 /// Notes joints that have the number of another, and those whose coordinates leave a doubt.
 void CloseJoints(Conversion& run);
 
+/// True when the file has a joint of this label. As a rule joints are numbered from 1, and the key
+/// of one is its label.
+bool HasJoint(CModel& model, Text label, std::int32_t likelyKey);
+
 /// Why a line of the output does not name the joint that its row names; nothing when it does.
 std::optional<Why> WhyNotJoint(Conversion& run, Text joint);
 

@@ -1,5 +1,6 @@
 #include "joints/supports.h"
 
+#include "account/shared_names.h"
 #include "joints/local_axes.h"
 #include "joints/nodes.h"
 
@@ -29,9 +30,6 @@ void NoteMatrix(Conversion& run, std::uint32_t key, const T_JTSC_D& row) {
   if (row.U2 != row.OwnU2 || row.U3 != row.OwnU3 || row.R1 != row.OwnR1 || row.R2 != row.OwnR2 ||
       row.R3 != row.OwnR3) {
     run.Accounts.Note<T_JTSC_D>(key, "coupled-spring-diagonal");
-  }
-  if (row.R1R2 != 0.0 || row.R1R3 != 0.0 || row.R2R3 != 0.0) {
-    run.Accounts.Note<T_JTSC_D>(key, "coupled-spring-rotations");
   }
 }
 
@@ -157,6 +155,7 @@ bool WriteGeneralSprings(Conversion& run, LineWriter& out) {
 // ---- Account ----
 
 void CloseSupports(Conversion& run) {
+  NoteSharedNames<&T_JTRA_D::Joint, T_JTRA_D>(run);
   NoteUnknownJoints<T_JTRA_D>(run);
   NoteUnknownJoints<T_JTUC_D>(run);
   NoteUnknownJoints<T_JTSC_D>(run);

@@ -79,27 +79,38 @@ struct T_JTSC_D {
   double OwnR1 = 0.0;
   double OwnR2 = 0.0;
   double OwnR3 = 0.0;
-  double R1R2 = 0.0;
-  double R1R3 = 0.0;
-  double R2R3 = 0.0;
 };
 
 template <>
 inline constexpr RowKey<T_JTSC_D> kRowKeys<T_JTSC_D>[] = {
-    {"Joint=", &T_JTSC_D::Joint},    {"CoordSys=", &T_JTSC_D::CoordSys},
-    {"U1=", &T_JTSC_D::U1},          {"U1U2=", &T_JTSC_D::U1U2},
-    {"U2=", &T_JTSC_D::U2},          {"U1U3=", &T_JTSC_D::U1U3},
-    {"U2U3=", &T_JTSC_D::U2U3},      {"U3=", &T_JTSC_D::U3},
-    {"U1R1=", &T_JTSC_D::U1R1},      {"U2R1=", &T_JTSC_D::U2R1},
-    {"U3R1=", &T_JTSC_D::U3R1},      {"R1=", &T_JTSC_D::R1},
-    {"U1R2=", &T_JTSC_D::U1R2},      {"U2R2=", &T_JTSC_D::U2R2},
-    {"U3R2=", &T_JTSC_D::U3R2},      {"R2=", &T_JTSC_D::R2},
-    {"U1R3=", &T_JTSC_D::U1R3},      {"U2R3=", &T_JTSC_D::U2R3},
-    {"U3R3=", &T_JTSC_D::U3R3},      {"R3=", &T_JTSC_D::R3},
-    {" U2=", &T_JTSC_D::OwnU2},      {" U3=", &T_JTSC_D::OwnU3},
-    {" R1=", &T_JTSC_D::OwnR1},      {" R2=", &T_JTSC_D::OwnR2},
-    {" R3=", &T_JTSC_D::OwnR3},      Noted{"R1R2=", &T_JTSC_D::R1R2},
-    Noted{"R1R3=", &T_JTSC_D::R1R3}, Noted{"R2R3=", &T_JTSC_D::R2R3}};
+    {"Joint=", &T_JTSC_D::Joint},
+    {"CoordSys=", &T_JTSC_D::CoordSys},
+    {"U1=", &T_JTSC_D::U1},
+    {"U1U2=", &T_JTSC_D::U1U2},
+    {"U2=", &T_JTSC_D::U2},
+    {"U1U3=", &T_JTSC_D::U1U3},
+    {"U2U3=", &T_JTSC_D::U2U3},
+    {"U3=", &T_JTSC_D::U3},
+    {"U1R1=", &T_JTSC_D::U1R1},
+    {"U2R1=", &T_JTSC_D::U2R1},
+    {"U3R1=", &T_JTSC_D::U3R1},
+    {"R1=", &T_JTSC_D::R1},
+    {"U1R2=", &T_JTSC_D::U1R2},
+    {"U2R2=", &T_JTSC_D::U2R2},
+    {"U3R2=", &T_JTSC_D::U3R2},
+    {"R2=", &T_JTSC_D::R2},
+    {"U1R3=", &T_JTSC_D::U1R3},
+    {"U2R3=", &T_JTSC_D::U2R3},
+    {"U3R3=", &T_JTSC_D::U3R3},
+    {"R3=", &T_JTSC_D::R3},
+    {" U2=", &T_JTSC_D::OwnU2},
+    {" U3=", &T_JTSC_D::OwnU3},
+    {" R1=", &T_JTSC_D::OwnR1},
+    {" R2=", &T_JTSC_D::OwnR2},
+    {" R3=", &T_JTSC_D::OwnR3},
+    LostUnless{"R1R2=", "0", "coupled-spring-rotations"},
+    LostUnless{"R1R3=", "0", "coupled-spring-rotations"},
+    LostUnless{"R2R3=", "0", "coupled-spring-rotations"}};
 
 // ---- Target records ----
 

@@ -117,7 +117,8 @@ bool ConvertDistributedLoads(Conversion& run) {
     }
     if (row.DistType == kRelative) {
       if (std::abs(row.RelDistA - row.RelDistB) < 1e-6) {
-        run.Accounts.Note<T_FRLD_D>(key, "span-of-nothing");
+        run.Accounts.Note<T_FRLD_D>(
+            key, row.RelDistB == 0.0 ? Why("span-not-stated") : Why("span-of-nothing"));
         continue;  // a span of nothing; absolute distances are not tested for it
       }
       load.D1 = row.RelDistA;

@@ -124,9 +124,6 @@ void NoteStaticCase(Conversion& run, std::uint32_t key, const T_STC1_D& row) {
   if (!run.Source.Rows<T_LDCS_D>().FirstWith<&T_LDCS_D::LoadCase>(row.LoadName)) {
     run.Accounts.Note<T_STC1_D>(key, "load-unknown");
   }
-  if (row.LoadSF != 1.0) {
-    run.Accounts.Note<T_STC1_D>(key, "load-scale-factor");
-  }
   if (run.Source.Rows<T_STC1_D>().AllWith<&T_STC1_D::Case>(row.Case).size() > 1) {
     run.Accounts.Note<T_STC1_D>(key, "case-of-several-loads");
   } else if (row.Case != row.LoadName) {

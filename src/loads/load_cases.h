@@ -31,15 +31,15 @@ struct T_STC1_D {
   static constexpr Text kTable = "T_STC1_D";
   Text Case;
   Text LoadName;
-  double LoadSF = 1.0;
 };
 
 template <>
-inline constexpr RowKey<T_STC1_D> kRowKeys<T_STC1_D>[] = {{"Case=", &T_STC1_D::Case},
-                                                          Unread{"LoadType="},
-                                                          {"LoadName=", &T_STC1_D::LoadName},
-                                                          Noted{"LoadSF=", &T_STC1_D::LoadSF},
-                                                          Unread{"TransAccSF="}};
+inline constexpr RowKey<T_STC1_D> kRowKeys<T_STC1_D>[] = {
+    {"Case=", &T_STC1_D::Case},
+    Unread{"LoadType="},
+    {"LoadName=", &T_STC1_D::LoadName},
+    LostUnless{"LoadSF=", "1", "load-scale-factor"},
+    Unread{"TransAccSF="}};
 
 // ---- Target records ----
 

@@ -1,5 +1,6 @@
 #include "plates/areas.h"
 
+#include "account/shared_names.h"
 #include "common/worked_out.h"
 #include "frames/elements.h"
 #include "frames/materials.h"
@@ -289,8 +290,7 @@ bool WriteThicknesses(Conversion& run, LineWriter& out) {
 
 namespace {
 
-void NoteCorners(Conversion& run, const KnownJoints& joints, std::uint32_t key,
-                 const T_CNAR_D& area) {
+void NoteCorners(Conversion& run, KnownJoints& joints, std::uint32_t key, const T_CNAR_D& area) {
   const std::array corners = {area.Joint1, area.Joint2, area.Joint3, area.Joint4};
   if (!area.Joint4.empty()) {
     joints.NoteUnknown<T_CNAR_D>(key, corners);
@@ -333,31 +333,9 @@ void NoteSections(Conversion& run, NamesInUse& namesInUse) {
 
 }  // namespace
 
-namespace {
-
-bool HasModifiers(const T_ASPR_D& section) {
-  const auto modifiers = {section.F11Mod, section.F22Mod, section.F12Mod, section.M11Mod,
-                          section.M22Mod, section.M12Mod, section.V13Mod, section.V23Mod,
-                          section.MMod,   section.WMod};
-  return std::ranges::any_of(modifiers, [](double modifier) { return modifier != 1.0; });
-}
-
-void NoteMaterialsAndModifiers(Conversion& run) {
-  for (const auto [key, section] : run.Source.Rows<T_ASPR_D>().Entries()) {
-    if (HasModifiers(section)) {
-      run.Accounts.Note<T_ASPR_D>(key, "area-section-modifiers");
-    }
-    if (IsAboveTolerance(section.MatAngle)) {
-      run.Accounts.Note<T_ASPR_D>(key, "material-angle");
-    }
-  }
-  NoteOwnMaterials<T_ASCA_D>(run);
-}
-
-}  // namespace
-
 void CloseAreas(Conversion& run) {
-  const KnownJoints joints(run);
+  NoteSharedNames<&T_CNAR_D::Area, T_CNAR_D>(run);
+  KnownJoints joints(run);
   MetRows<&T_ASCA_D::Area, T_ASCA_D> assignments(run.Source.Rows<T_ASCA_D>());
   NamesInUse namesInUse;
   for (const auto [key, area] : run.Source.Rows<T_CNAR_D>().Entries()) {
@@ -368,7 +346,6 @@ void CloseAreas(Conversion& run) {
   }
   assignments.NoteOthers(run, "area-unknown");
   NoteSections(run, namesInUse);
-  NoteMaterialsAndModifiers(run);
 }
 
 }  // namespace s2k2ngt

@@ -37,13 +37,13 @@ struct T_ASCA_D {
   static constexpr Text kTable = "T_ASCA_D";
   Text Area;
   Text Section;
-  Text MatProp;  // "Default" for that of the section
 };
 
 template <>
-inline constexpr RowKey<T_ASCA_D> kRowKeys<T_ASCA_D>[] = {{"Area=", &T_ASCA_D::Area},
-                                                          {"Section=", &T_ASCA_D::Section},
-                                                          Noted{"MatProp=", &T_ASCA_D::MatProp}};
+inline constexpr RowKey<T_ASCA_D> kRowKeys<T_ASCA_D>[] = {
+    {"Area=", &T_ASCA_D::Area},
+    {"Section=", &T_ASCA_D::Section},
+    LostUnless{"MatProp=", "Default", "material-of-assignment"}};
 
 /// An area section. Its row's key is the number of the section and of its thickness.
 struct T_ASPR_D {
@@ -54,25 +54,14 @@ struct T_ASPR_D {
   Text Type;
   double Thickness = 0.0;  // membrane
   double BendThick = 0.0;  // bending
-  double MatAngle = 0.0;   // degrees
   // Factors, of which the output has none.
-  double F11Mod = 1.0;
-  double F22Mod = 1.0;
-  double F12Mod = 1.0;
-  double M11Mod = 1.0;
-  double M22Mod = 1.0;
-  double M12Mod = 1.0;
-  double V13Mod = 1.0;
-  double V23Mod = 1.0;
-  double MMod = 1.0;
-  double WMod = 1.0;
 };
 
 template <>
 inline constexpr RowKey<T_ASPR_D> kRowKeys<T_ASPR_D>[] = {
     {"Section=", &T_ASPR_D::Section},
     {"Material=", &T_ASPR_D::Material},
-    Noted{"MatAngle=", &T_ASPR_D::MatAngle},
+    LostUnless{"MatAngle=", "0", "material-angle"},
     {"AreaType=", &T_ASPR_D::AreaType},
     // with a blank, so that it is not met inside AreaType=
     {" Type=", &T_ASPR_D::Type},
@@ -84,18 +73,18 @@ inline constexpr RowKey<T_ASPR_D> kRowKeys<T_ASPR_D>[] = {
     Unread{"Color="},
     Unread{"TotalWt="},
     Unread{"TotalMass="},
-    Noted{"F11Mod=", &T_ASPR_D::F11Mod},
-    Noted{"F22Mod=", &T_ASPR_D::F22Mod},
-    Noted{"F12Mod=", &T_ASPR_D::F12Mod},
-    Noted{"M11Mod=", &T_ASPR_D::M11Mod},
-    Noted{"M22Mod=", &T_ASPR_D::M22Mod},
-    Noted{"M12Mod=", &T_ASPR_D::M12Mod},
-    Noted{"V13Mod=", &T_ASPR_D::V13Mod},
+    LostUnless{"F11Mod=", "1", "area-section-modifiers"},
+    LostUnless{"F22Mod=", "1", "area-section-modifiers"},
+    LostUnless{"F12Mod=", "1", "area-section-modifiers"},
+    LostUnless{"M11Mod=", "1", "area-section-modifiers"},
+    LostUnless{"M22Mod=", "1", "area-section-modifiers"},
+    LostUnless{"M12Mod=", "1", "area-section-modifiers"},
+    LostUnless{"V13Mod=", "1", "area-section-modifiers"},
     Unread{"V23Mode="},
     // as the source program spells it
-    Noted{"V23Mod=", &T_ASPR_D::V23Mod},
-    Noted{"MMod=", &T_ASPR_D::MMod},
-    Noted{"WMod=", &T_ASPR_D::WMod}};
+    LostUnless{"V23Mod=", "1", "area-section-modifiers"},
+    LostUnless{"MMod=", "1", "area-section-modifiers"},
+    LostUnless{"WMod=", "1", "area-section-modifiers"}};
 
 /// Gravity loads of areas; the stages only ask whether there are any.
 struct T_ALGR_D {

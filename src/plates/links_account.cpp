@@ -100,7 +100,7 @@ void NoteRowOfLink(Conversion& run, std::uint32_t key, const Row& row, NoteFurth
 }
 
 void NoteEnds(Conversion& run, const Ends& ends) {
-  const KnownJoints joints(run);
+  KnownJoints joints(run);
   for (const auto [key, row] : run.Source.Rows<T_CNLK_D>().Entries()) {
     if (ends.IsMet(key)) {
       joints.NoteUnknown<T_CNLK_D>(key, std::array{row.JointI, row.JointJ});

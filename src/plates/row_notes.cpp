@@ -4,10 +4,10 @@
 
 namespace s2k2ngt {
 
-KnownJoints::KnownJoints(Conversion& run) : m_Run(run) {
+void KnownJoints::TakeNumbers() {
   // Elements ask for joints more often than for all else together. A set of small numbers answers
   // at once, and large models have no other labels as a rule.
-  const auto& joints = run.Source.Rows<T_JTCD_D>();
+  const auto& joints = m_Run.Source.Rows<T_JTCD_D>();
   m_HasNumber.resize(16 * joints.Count() + 1'000);
   for (const T_JTCD_D& joint : joints.Records()) {
     const auto number = NumberOf(joint.Joint);
@@ -33,7 +33,11 @@ std::optional<std::size_t> KnownJoints::NumberOf(Text joint) const {
   return joint.empty() ? std::nullopt : std::optional(number);
 }
 
-bool KnownJoints::Has(Text joint) const {
+bool KnownJoints::Has(Text joint) {
+  if (!m_HasTakenNumbers) {
+    TakeNumbers();
+    m_HasTakenNumbers = true;
+  }
   if (m_HasNumber.empty()) {
     return m_Run.Source.Rows<T_JTCD_D>().FirstWith<&T_JTCD_D::Joint>(joint).has_value();
   }

@@ -65,13 +65,13 @@ class NamesInUse {
 /// Which joints the model has.
 class KnownJoints {
  public:
-  explicit KnownJoints(Conversion& run);
+  explicit KnownJoints(Conversion& run) : m_Run(run) {}
 
-  bool Has(Text joint) const;
+  bool Has(Text joint);
 
   /// Notes of an element of which a joint is not there that it has no node in its place.
   template <class Element>
-  void NoteUnknown(std::uint32_t key, std::span<const Text> joints) const {
+  void NoteUnknown(std::uint32_t key, std::span<const Text> joints) {
     for (const Text joint : joints) {
       if (!Has(joint)) {
         m_Run.Accounts.Note<Element>(key, "end-or-corner-unknown");
@@ -81,11 +81,13 @@ class KnownJoints {
   }
 
  private:
+  void TakeNumbers();
   /// The number of a label, if it is one that the set has room for.
   std::optional<std::size_t> NumberOf(Text joint) const;
 
   Conversion& m_Run;
-  std::vector<bool> m_HasNumber;  // by number, of labels that are small numbers; else empty
+  bool m_HasTakenNumbers = false;  // which many models never ask for
+  std::vector<bool> m_HasNumber;   // by number, of labels that are small numbers; else empty
 };
 
 }  // namespace s2k2ngt

@@ -1,5 +1,6 @@
 #include "plates/solids.h"
 
+#include "account/shared_names.h"
 #include "frames/elements.h"
 #include "frames/materials.h"
 #include "plates/areas.h"
@@ -112,8 +113,7 @@ void WriteSolidElements(Conversion& run, LineWriter& out) {
 
 namespace {
 
-void NoteSolid(Conversion& run, const KnownJoints& joints, std::uint32_t key,
-               const T_CNSL_D& solid) {
+void NoteSolid(Conversion& run, KnownJoints& joints, std::uint32_t key, const T_CNSL_D& solid) {
   const std::array<Text, 8> corners = JointsOf(solid);
   const bool isWedge = solid.Joint7.empty() && solid.Joint8.empty();
   joints.NoteUnknown<T_CNSL_D>(key, std::span(corners).first(isWedge ? 6 : 8));
@@ -137,7 +137,8 @@ void NoteProperties(Conversion& run, NamesInUse& namesInUse) {
 }  // namespace
 
 void CloseSolids(Conversion& run) {
-  const KnownJoints joints(run);
+  NoteSharedNames<&T_CNSL_D::Solid, T_CNSL_D>(run);
+  KnownJoints joints(run);
   MetRows<&T_SLPA_D::Solid, T_SLPA_D> assignments(run.Source.Rows<T_SLPA_D>());
   NamesInUse namesInUse;
   for (const auto [key, solid] : run.Source.Rows<T_CNSL_D>().Entries()) {
@@ -148,13 +149,6 @@ void CloseSolids(Conversion& run) {
   }
   assignments.NoteOthers(run, "solid-unknown");
   NoteProperties(run, namesInUse);
-  NoteOwnMaterials<T_SLPA_D>(run);
-  for (const auto [key, property] : run.Source.Rows<T_SLPD_D>().Entries()) {
-    if (IsAboveTolerance(property.MatAngleA) || IsAboveTolerance(property.MatAngleB) ||
-        IsAboveTolerance(property.MatAngleC)) {
-      run.Accounts.Note<T_SLPD_D>(key, "material-angle");
-    }
-  }
   run.Accounts.NoteAll<T_SLAM_D>("table-not-read");
   run.Accounts.NoteAll<T_SLPT_D>("table-not-read");
 }

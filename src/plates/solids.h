@@ -42,31 +42,28 @@ struct T_SLPA_D {
   static constexpr Text kTable = "T_SLPA_D";
   Text Solid;
   Text SolidProp;
-  Text MatProp;  // "Default" for that of the property
 };
 
 template <>
-inline constexpr RowKey<T_SLPA_D> kRowKeys<T_SLPA_D>[] = {{"Solid=", &T_SLPA_D::Solid},
-                                                          {"SolidProp=", &T_SLPA_D::SolidProp},
-                                                          Noted{"MatProp=", &T_SLPA_D::MatProp}};
+inline constexpr RowKey<T_SLPA_D> kRowKeys<T_SLPA_D>[] = {
+    {"Solid=", &T_SLPA_D::Solid},
+    {"SolidProp=", &T_SLPA_D::SolidProp},
+    LostUnless{"MatProp=", "Default", "material-of-assignment"}};
 
 /// A solid property. The angles of its material have no place in the output.
 struct T_SLPD_D {
   static constexpr Text kTable = "T_SLPD_D";
   Text SolidProp;
   Text Material;
-  double MatAngleA = 0.0;  // degrees
-  double MatAngleB = 0.0;
-  double MatAngleC = 0.0;
 };
 
 template <>
 inline constexpr RowKey<T_SLPD_D> kRowKeys<T_SLPD_D>[] = {
     {"SolidProp=", &T_SLPD_D::SolidProp},
     {"Material=", &T_SLPD_D::Material},
-    Noted{"MatAngleA=", &T_SLPD_D::MatAngleA},
-    Noted{"MatAngleB=", &T_SLPD_D::MatAngleB},
-    Noted{"MatAngleC=", &T_SLPD_D::MatAngleC},
+    LostUnless{"MatAngleA=", "0", "material-angle"},
+    LostUnless{"MatAngleB=", "0", "material-angle"},
+    LostUnless{"MatAngleC=", "0", "material-angle"},
     LostUnless{"InComp=", "Yes", "without-incompatible-modes"},
     Unread{"Color="},
     Unread{"TotalWt="},

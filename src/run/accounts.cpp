@@ -155,8 +155,20 @@ void EnterLineOfNoTable(std::uint64_t line, Ledger& ledger) {
   ledger.EnterLine("(outside of the tables)", line, "outside-of-tables");
 }
 
-void EnterMissingEnd(std::uint64_t lines, Ledger& ledger) {
-  ledger.EnterLine("(end of the file)", lines, "end-missing");
+void EnterWhatIsMissing(CModel& model, std::uint64_t lines, bool hasEnd, Ledger& ledger) {
+  const std::uint64_t lastLine = std::max<std::uint64_t>(lines, 1);
+  if (!hasEnd) {
+    ledger.EnterLine("(end of the file)", lastLine, "end-missing");
+  }
+  if (model.Rows<T_JTCD_D>().Empty()) {
+    return;
+  }
+  if (!ledger.Has<Units>()) {
+    ledger.EnterLine("(PROGRAM CONTROL)", lastLine, "units-missing");
+  }
+  if (!ledger.Has<ActiveDegreesOfFreedom>()) {
+    ledger.EnterLine("(ACTIVE DEGREES OF FREEDOM)", lastLine, "freedoms-missing");
+  }
 }
 
 void CloseAccounts(Conversion& run) {

@@ -26,8 +26,9 @@ void EnterLostRows(const TableBlock& block, RowsLost how, Ledger& ledger);
 /// Enters a line that the scan passes over.
 void EnterLineOfNoTable(std::uint64_t line, Ledger& ledger);
 
-/// Enters that the file, of so many lines, does not state its end.
-void EnterMissingEnd(std::uint64_t lines, Ledger& ledger);
+/// Enters what the file, of so many lines, should have and does not: its end, and for a model the
+/// tables that say what its numbers mean.
+void EnterWhatIsMissing(CModel& model, std::uint64_t lines, bool hasEnd, Ledger& ledger);
 
 /// Notes the rows that are lost because no stage and no writer has asked for them. Runs when all
 /// is written.

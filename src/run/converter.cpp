@@ -122,8 +122,8 @@ int CConverter::Impl::Read(Text image) {
     m_Failure.Table = scanner.Title();
     m_Failure.Reason = scanner.Reason();
   }
-  if (result == kConverted && m_Ledger.IsKept() && !scanner.HasEnd()) {
-    EnterMissingEnd(scanner.LineNumber(), m_Ledger);
+  if (result == kConverted && m_Ledger.IsKept()) {
+    EnterWhatIsMissing(m_Model, scanner.LineNumber(), scanner.HasEnd(), m_Ledger);
   }
   return result;
 }

@@ -1,7 +1,5 @@
 #include "source/lost_values.h"
 
-#include "common/numbers.h"
-
 #include <algorithm>
 #include <array>
 
@@ -17,19 +15,44 @@ constexpr std::array kNamesOfNoModel =
 constexpr std::array kValuesOfNothing =
     std::to_array<Text>({"0", "DEFAULT", "GLOBAL", "NO", "NONE", "ZERO"});
 
+/// Where a row goes on in another line, the next name stands right behind the value.
+bool RunsIntoNextName(Text value) { return value.find('=') != Text::npos; }
+
+constexpr std::array kIsOfNumber = [] {
+  std::array<bool, 256> isOfNumber{};
+  for (const char sign : Text("0123456789+-.eE")) {
+    isOfNumber.at(static_cast<unsigned char>(sign)) = true;
+  }
+  return isOfNumber;
+}();
+
 }  // namespace
 
 bool SaysNoMoreThan(Text neutral, Text value) {
-  const Text word = TrimLeft(value);
+  Text word = TrimLeft(value);
   if (word.empty()) {
     return true;
   }
-  double number = 0.0;
-  double neutralNumber = 0.0;
-  if (ParseWholeReal(neutral, neutralNumber) && ParseWholeReal(word, number)) {
-    return number == neutralNumber;
+  const bool isNumber = IsDigitChar(word.front()) || Text("+-.").find(word.front()) != Text::npos;
+  if (isNumber && IsDigitChar(neutral.front())) {
+    return CStrParser::FirstDouble(word) == CStrParser::FirstDouble(neutral);
+  }
+  if (RunsIntoNextName(word)) {
+    word = word.substr(0, neutral.size());
   }
   return ToUpper(word) == ToUpper(neutral);
+}
+
+bool IsNoWholeNumber(Text value) {
+  const Text word = TrimLeft(value);
+  const bool isWhole = std::ranges::all_of(
+      word, [](char sign) { return kIsOfNumber.at(static_cast<unsigned char>(sign)); });
+  return word.empty() || (!isWhole && !RunsIntoNextName(word));
+}
+
+bool IsNeitherYesNorNo(Text value) {
+  return value != "Yes" && value != "No" && !CStrParser::FirstIsYes(value) &&
+         !RunsIntoNextName(value);
 }
 
 bool IsOfNoConsequence(Text name, Text value) {

@@ -15,4 +15,9 @@ bool SaysNoMoreThan(Text neutral, Text value);
 /// that say "no".
 bool IsOfNoConsequence(Text name, Text value);
 
+/// True for a value of which something is lost when it is read as a number.
+bool IsNoWholeNumber(Text value);
+/// True for a value that is neither "Yes" nor "No", and is read as the latter.
+bool IsNeitherYesNorNo(Text value);
+
 }  // namespace s2k2ngt

@@ -127,7 +127,21 @@ class RowKey {
   constexpr bool IsLost() const { return m_Kind == Kind::Lost; }
   /// Why this value of a key that is lost is to be told; nothing for the neutral one.
   std::optional<Why> WhyLost(Text value) const {
-    return SaysNoMoreThan(m_Neutral, value) ? std::nullopt : std::optional(m_Why);
+    const bool isNeutral = value == m_Neutral || SaysNoMoreThan(m_Neutral, value);
+    return isNeutral ? std::nullopt : std::optional(m_Why);
+  }
+
+  /// Why a value of a key that is stored is not read as it stands; nothing for most.
+  std::optional<Why> WhyDoubtful(Text value) const {
+    switch (m_Kind) {
+      case Kind::Real:
+      case Kind::Integer:
+        return IsNoWholeNumber(value) ? std::optional(Why("number-read-in-part")) : std::nullopt;
+      case Kind::YesNo:
+        return IsNeitherYesNorNo(value) ? std::optional(Why("neither-yes-nor-no")) : std::nullopt;
+      default:
+        return std::nullopt;
+    }
   }
 
   /// Puts the value that a row states for the key into its field.

@@ -51,7 +51,7 @@ class RowReader {
           }
           std::data(kRowKeys<Record>)[key].Store(pairs.Value(), m_Texts, record);
           wanted ^= KeySet{1} << key;
-          if ((kLostKeys >> key & 1U) != 0) {
+          if ((wanted >> kUnknown & 1U) != 0) {
             TakeLost(std::data(kRowKeys<Record>)[key], pairs.Value());
           }
         }
@@ -102,7 +102,7 @@ class RowReader {
   }
 
   void TakeLost(const RowKey<Record>& key, Text value) {
-    if (const std::optional<Why> why = key.WhyLost(value)) {
+    if (const std::optional<Why> why = key.IsLost() ? key.WhyLost(value) : key.WhyDoubtful(value)) {
       m_Lost.push_back(*why);
     }
   }

@@ -126,7 +126,7 @@ TEST(AccountOfAreas, ASectionWithoutAreasIsConvertedIfItHasAThickness) {
           "   Section=RING   Material=C30   AreaType=Asolid   Arc=0\n"
           "   Section=ROOF   Material=C30   AreaType=Shell   Type=Shell-Thin   Thickness=0.1\n");
   EXPECT_THAT(run.Losses(), ElementsAre("Section=RING: property-not-used"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfAreas, AreasOfPlaneStrainAndOfRevolutionOutsideAPlaneOfYAreChanged) {

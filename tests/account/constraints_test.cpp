@@ -102,13 +102,13 @@ TEST(AccountOfConstraints, AConstraintOfOneJointTiesNothing) {
       KeepAccountOf(Members(Member("1", "LINK", "Body")) + Definition("BODY", kBody));
   EXPECT_THAT(run.Losses(), ElementsAre("Joint=1: constraint-of-one-joint",
                                         "Name=LINK: constraint-of-one-joint"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfConstraints, ADefinitionWithoutJointsTiesNothing) {
   const AccountRun run = KeepAccountOf(Definition("BODY", kBody));
   EXPECT_THAT(run.Losses(), ElementsAre("Name=LINK: constraint-without-joints"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfConstraints, JointsOfAKindWithoutDefinitionsAreDropped) {
@@ -182,7 +182,7 @@ TEST(AccountOfConstraints, TheThirdBodyIsWrittenTwiceWhichIsNoLoss) {
   EXPECT_THAT(run.Losses(),
               ElementsAre("Joint=1: constraint-repeated", "Joint=2: constraint-repeated"));
   EXPECT_EQ(run.Rows.Losses[0].Position, 1U);
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfConstraints, ConstraintsInAUsersSystemAreChanged) {

@@ -86,7 +86,7 @@ TEST(AccountOfFrameEndsTest, PartialFixityThatIsNotInUseIsNoLoss) {
       KeepAccount(SoundFrames() + Releases("   Frame=1   M3J=Yes   PartialFix=No\n") +
                   PartialFixity("   Frame=1   M3J=500\n"));
   EXPECT_THAT(run.Losses(), ElementsAre("Frame=1: switched-off"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfFrameEndsTest, PartialFixityOfAFrameWithoutReleasesIsDropped) {
@@ -129,7 +129,7 @@ TEST(AccountOfFrameEndsTest, EndLengthsOfZeroAreNoLoss) {
   const AccountRun run = KeepAccount(
       SoundFrames() + EndLengths("   Frame=1   LengthI=0   LengthJ=0   RigidFactor=0.5\n"));
   EXPECT_THAT(run.Losses(), ElementsAre("Frame=1: end-lengths-zero"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfFrameEndsTest, TheRigidFactorOfEndLengthsIsChanged) {

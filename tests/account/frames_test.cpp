@@ -45,7 +45,7 @@ TEST(AccountOfFramesTest, SoundFramesAreConverted) {
                                         "FRAME SECTION ASSIGNMENTS: 2 rows, 2 converted",
                                         "FRAME LOCAL AXES ASSIGNMENTS 1 - TYPICAL: 1 rows, "
                                         "1 converted"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfFramesTest, AFrameOfAnUnknownJointIsChanged) {
@@ -152,7 +152,7 @@ TEST(AccountOfFramesTest, AdvancedAxesThatNoTypicalRowAsksForAreDropped) {
   const AccountRun off = KeepAccount(SoundFrames() + advanced +
                                      TypicalAxes("   Frame=1   Angle=10   AdvanceAxes=No\n"));
   EXPECT_THAT(off.Losses(), ElementsAre("Frame=1: switched-off"));
-  EXPECT_FALSE(off.Rows.HasLoss());
+  EXPECT_FALSE(off.HasLossOfRows());
 }
 
 /// The reasons of advanced axes of a frame, by what their row states.

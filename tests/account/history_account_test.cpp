@@ -142,7 +142,7 @@ TEST(AccountOfModalHistoriesTest, OfProportionalDampingsOfACaseTheFirstWalkedCou
 TEST(AccountOfModalHistoriesTest, ProportionalDampingOfAConstantCaseIsNoLoss) {
   const AccountRun run = KeepAccount(kModal + kConstant + ModalProportional(kFactors));
   EXPECT_THAT(run.LossesIn("HISTORY"), ElementsAre("Case=TH: no-part-in-its-case"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfModalHistoriesTest, DampingOfModesOfAProportionalCaseIsDropped) {

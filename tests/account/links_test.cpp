@@ -113,7 +113,7 @@ TEST(AccountOfLinks, PropertiesInAModelWithoutLinksAreNoLoss) {
       KeepAccount(General(kPad) + Linear("   Link=PAD   DOF=U1   TransKE=100\n"));
   EXPECT_THAT(run.Losses(),
               ElementsAre("Link=PAD: property-not-used", "Link=PAD: property-not-used"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfLinks, ALinkWithAnUnknownJointIsChanged) {
@@ -160,7 +160,7 @@ TEST(AccountOfLinks, AssignmentsOfPropertiesAreInTheSummary) {
   const AccountRun run = KeepAccountOf(
       {.Further = SourceTable("LINK PROPERTY ASSIGNMENTS", "   Link=1   LinkProp=PAD\n")});
   EXPECT_THAT(run.Losses(), ElementsAre("Link=1: link-assignment-in-summary"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 // ---- Axes ----
@@ -210,7 +210,7 @@ TEST(AccountOfLinks, ADirectionOfAPropertyThatNoElasticLinkHasIsNoLoss) {
   const AccountRun run =
       KeepAccountOf({.Further = Linear("   Link=FOOT   DOF=U1   TransKE=100\n")});
   EXPECT_THAT(run.Losses(), ElementsAre("Link=FOOT: property-not-used"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfLinks, AnUnknownDirectionOfALinearPropertyIsDropped) {

@@ -68,9 +68,16 @@ const Place kAdvancedAxes = {
     "FRAME LOCAL AXES ASSIGNMENTS 2 - ADVANCED",
     "Frame=1   LocalPlan=12   PlOption1=\"Coord Dir\"   CoordDir1=Y   CoordDir2=Z"};
 
+const Place kFrameAssignment = {
+    FrameJoints() + FrameMaterial() + FrameSections() +
+        SourceTable("CONNECTIVITY - FRAME", "   Frame=1   JointI=1   JointJ=2   Length=4\n"),
+    "FRAME SECTION ASSIGNMENTS", "Frame=1   AnalSect=BEAM"};
+
 INSTANTIATE_TEST_SUITE_P(
     Frames, LostValues,
-    testing::Values(LostValueCase{kInsertionPoint, "Mirror2=No", "Mirror2=Yes", "frame-mirrored"},
+    testing::Values(LostValueCase{kFrameAssignment, "MatProp=Default", "MatProp=ALU",
+                                  "material-of-assignment"},
+                    LostValueCase{kInsertionPoint, "Mirror2=No", "Mirror2=Yes", "frame-mirrored"},
                     LostValueCase{kInitialForce, "CoordSys=GLOBAL", "CoordSys=SKEW",
                                   "coordinate-system-ignored"},
                     LostValueCase{kAdvancedAxes, "PlCoordSys=GLOBAL", "PlCoordSys=SKEW",
@@ -92,9 +99,24 @@ const Place kSolidProperty = {
         SourceTable("SOLID PROPERTY ASSIGNMENTS", "   Solid=1   SolidProp=BLOCK\n"),
     "SOLID PROPERTY DEFINITIONS", "SolidProp=BLOCK   Material=C30"};
 
+const Place kAreaAssignment = {
+    BoxJoints() + SourceTable("CONNECTIVITY - AREA",
+                              "   Area=1   Joint1=1   Joint2=2   Joint3=3   Joint4=4\n"),
+    "AREA SECTION ASSIGNMENTS", "Area=1   Section=SLAB"};
+const Place kSolidAssignment = {
+    BoxJoints() + SourceTable("CONNECTIVITY - SOLID",
+                              "   Solid=1   Joint1=1   Joint2=2   Joint3=3   Joint4=4   Joint5=5"
+                              "   Joint6=6   Joint7=7   Joint8=8\n"),
+    "SOLID PROPERTY ASSIGNMENTS", "Solid=1   SolidProp=BLOCK"};
+
 INSTANTIATE_TEST_SUITE_P(
     AreasAndSolids, LostValues,
     testing::Values(
+        LostValueCase{kAreaAssignment, "MatProp=Default", "MatProp=C50", "material-of-assignment"},
+        LostValueCase{kSolidAssignment, "MatProp=Default", "MatProp=C50", "material-of-assignment"},
+        LostValueCase{kSolidProperty, "MatAngleA=0", "MatAngleA=20", "material-angle"},
+        LostValueCase{kSolidProperty, "MatAngleB=0", "MatAngleB=-20", "material-angle"},
+        LostValueCase{kSolidProperty, "MatAngleC=0", "MatAngleC=20", "material-angle"},
         LostValueCase{kAreaSection, "Arc=0", "Arc=360", "arc-of-axisymmetric"},
         LostValueCase{kAreaSection, "InComp=Yes", "InComp=No", "without-incompatible-modes"},
         LostValueCase{kAreaSection, "CoordSys=GLOBAL", "CoordSys=SKEW",
@@ -233,6 +255,7 @@ std::vector<LostValueCase> AnalysisCases() {
       {kModalSteps, "EConvTol=1E-05", "EConvTol=0.001", "controls-of-steps"},
       {kModalSteps, "ConvFactor=1", "ConvFactor=2", "controls-of-steps"},
       {kModalSteps, "ForceItMin=2", "ForceItMin=5", "controls-of-steps"},
+      {kDirectSteps, "GeoNonLin=None", "GeoNonLin=P-Delta", "geometric-nonlinearity"},
       {kDirectSteps, "EvLumpTol=0.01", "EvLumpTol=0.1", "controls-of-steps"},
       {kGroundMotion, "CoordSys=GLOBAL", "CoordSys=SKEW", "coordinate-system-ignored"}};
   for (const std::string key : {"FrameTC=", "FrameHinge=", "CableTC=", "LinkTC=", "LinkOther="}) {
@@ -319,6 +342,13 @@ TEST(ValuesOfUnknownName, AreToldUnlessTheySayNoOrNothing) {
   }
 }
 
+TEST(ValuesOfUnknownName, AtTheEndOfALineThatGoesOnAreReadUpToTheNextName) {
+  EXPECT_THAT(LossesOfJoint("PanelZone=No _\n   SpecialJt=No"), IsEmpty());
+  EXPECT_THAT(LossesOfJoint("PanelZone=0.0 _\n   SpecialJt=No"), IsEmpty());
+  EXPECT_THAT(LossesOfJoint("PanelZone=Stiff _\n   SpecialJt=No"),
+              ElementsAre("Joint=1: value-of-unknown-name"));
+}
+
 TEST(ValuesOfUnknownName, ThatMarkTheRowForPeopleAreNoLoss) {
   EXPECT_THAT(LossesOfJoint("Color=Red   GUID=7c1f   Notes=checked"), IsEmpty());
 }
@@ -342,6 +372,42 @@ TEST(ValuesOfUnknownName, OfARowThatIsDroppedAreNotTold) {
                               "   Frame=9   LoadCase=DEAD   MultiplierZ=-1   Shell=Yes\n"));
   EXPECT_THAT(run.LossesIn("RESTRAINT"), Contains("Joint=9: value-of-unknown-name"));
   EXPECT_THAT(run.LossesIn("GRAVITY"), ElementsAre("Frame=9: frame-unknown"));
+}
+
+// ---- Numbers and flags that are neither ----
+
+TEST(DoubtfulValues, NumbersThatAreNoneAsAWholeAreChanged) {
+  for (const char* number : {"1,25", "2.x", "three", "1 000", ""}) {
+    EXPECT_THAT(
+        LossesOf({"", "JOINT COORDINATES", "Joint=1   XorR=0   Z=1"}, "Y=" + std::string(number)),
+        ElementsAre("Joint=1: number-read-in-part"))
+        << number;
+  }
+  for (const char* number :
+       {"1.25", "-2E-05", "+3.", "4.5e+3", ".5", "7 _\n   CoordType=Cartesian"}) {
+    EXPECT_THAT(
+        LossesOf({"", "JOINT COORDINATES", "Joint=1   XorR=0   Z=1"}, "Y=" + std::string(number)),
+        IsEmpty())
+        << number;
+  }
+}
+
+TEST(DoubtfulValues, WholeNumbersThatAreNoneAreChanged) {
+  EXPECT_THAT(LossesOf({kModes, "CASE - MODAL 1 - GENERAL", "Case=MODAL   ModeType=Eigen"},
+                       "MaxNumModes=three"),
+              Contains("Case=MODAL: number-read-in-part"));
+}
+
+TEST(DoubtfulValues, FlagsThatAreNeitherYesNorNoAreChanged) {
+  const Place restraint = {FrameJoints(), "JOINT RESTRAINT ASSIGNMENTS", "Joint=1   U2=Yes"};
+  for (const char* flag : {"YES", "yes", "True", "1"}) {
+    EXPECT_THAT(LossesOf(restraint, "U1=" + std::string(flag)),
+                ElementsAre("Joint=1: neither-yes-nor-no"))
+        << flag;
+  }
+  EXPECT_THAT(LossesOf(restraint, "U1=Yes"), IsEmpty());
+  EXPECT_THAT(LossesOf(restraint, "U1=No"), IsEmpty());
+  EXPECT_THAT(LossesOf(restraint, "U1=No _\n   U3=Yes"), IsEmpty());
 }
 
 TEST(ValuesOfUnknownName, InTheColumnOfAKnownOneAreTold) {

@@ -44,7 +44,7 @@ TEST(AccountOfMaterialsTest, ADesignTypeWithoutLikeIsReworded) {
   const AccountRun run =
       KeepAccount(Materials("   Material=ALU   Type=Isotropic   DesignType=Aluminum   E=7\n"));
   EXPECT_THAT(run.Losses(), ElementsAre("Material=ALU: material-design-type"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfMaterialsTest, AMaterialWithoutItsConstantsIsDropped) {
@@ -106,7 +106,7 @@ TEST(AccountOfMaterialsTest, ConstantsOfOneOfTwoMaterialsOfANameAreConverted) {
   EXPECT_THAT(LossesOf(Materials("   Material=GL24   Type=Isotropic   E=2\n" + std::string(kWood) +
                                  "   Material=GL24   Type=Isotropic   E=2\n") +
                        Constants(kConstantsOfWood)),
-              IsEmpty());
+              ElementsAre("Material=GL24: name-used-twice", "Material=GL24: name-used-twice"));
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ TEST(AccountOfSolids, APropertyThatNoSolidHasIsNoLoss) {
   const AccountRun run = KeepAccountOfSolids(
       kBox, kBoxIsABlock, std::string(kBlock) + "   SolidProp=STONE   Material=C30\n");
   EXPECT_THAT(run.Losses(), ElementsAre("SolidProp=STONE: property-not-used"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfSolids, ASolidWithAnUnknownOrAMissingCornerIsChanged) {
@@ -108,7 +108,7 @@ TEST(AccountOfSolids, GravityLoadsAreDropped) {
   const AccountRun run = KeepAccount(
       SourceTable("SOLID LOADS - GRAVITY", "   Solid=1   LoadCase=DEAD   MultiplierZ=-1\n"));
   EXPECT_THAT(run.Losses(), ElementsAre("Solid=1: gravity-of-solid-or-link"));
-  EXPECT_TRUE(run.Rows.HasLoss());
+  EXPECT_TRUE(run.HasLossOfRows());
 }
 
 TEST(AccountOfSolids, MeshSettingsAndMaterialTemperaturesAreNotLookedAt) {

@@ -65,7 +65,7 @@ TEST(AccountOfSpectrumTest, PointsOfAFunctionThatComesBackAreChanged) {
 TEST(AccountOfSpectrumTest, LoadsOfOneDirectionAreConvertedAndTheLastHasANumber) {
   const AccountRun run = KeepAccount(kFunction + SourceTable(kLoads, LoadOf("A") + LoadOf("B")));
   EXPECT_THAT(run.Losses(), ElementsAre("Case=B: spectrum-case-numbered"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfSpectrumTest, LoadsOfACaseOfSeveralDirectionsAreChanged) {

@@ -96,7 +96,7 @@ TEST(AccountOfStructureTest, WithoutAnalysisCasesFreedomsAndMassSourcesAreDroppe
                   MassSources("   MassFrom=Elements\n"));
   EXPECT_THAT(run.Losses(), ElementsAre("UX=Yes: analysis-case-missing",
                                         "MassFrom=Elements: analysis-case-missing"));
-  EXPECT_TRUE(run.Rows.HasLoss());
+  EXPECT_TRUE(run.HasLossOfRows());
 }
 
 TEST(AccountOfStructureTest, FurtherFreedomsAreNotRead) {

@@ -35,12 +35,6 @@ TEST_P(AccountOfUnreadValuesTest, ThatAreNotNeutralAreTold) {
 INSTANTIATE_TEST_SUITE_P(
     AllTables, AccountOfUnreadValuesTest,
     testing::Values(
-        UnreadValue{"FRAME SECTION ASSIGNMENTS", "   Frame=1   AnalSect=A   MatProp=Default\n",
-                    "   Frame=1   AnalSect=A   MatProp=STEEL\n", "material-of-assignment"},
-        UnreadValue{"AREA SECTION ASSIGNMENTS", "   Area=1   Section=A   MatProp=Default\n",
-                    "   Area=1   Section=A   MatProp=STEEL\n", "material-of-assignment"},
-        UnreadValue{"SOLID PROPERTY ASSIGNMENTS", "   Solid=1   SolidProp=A   MatProp=Default\n",
-                    "   Solid=1   SolidProp=A   MatProp=STEEL\n", "material-of-assignment"},
         UnreadValue{"MATERIAL PROPERTIES 1 - GENERAL",
                     "   Material=A   UnitMass=2.4   UnitWeight=23.5\n",
                     "   Material=A   UnitMass=0   UnitWeight=23.5\n", "mass-unlike-weight"},
@@ -57,11 +51,7 @@ INSTANTIATE_TEST_SUITE_P(
         UnreadValue{"AREA SECTION PROPERTIES", "   Section=A\n", "   Section=A   V23Mod=0.5\n",
                     "area-section-modifiers"},
         UnreadValue{"AREA SECTION PROPERTIES", "   Section=A   MatAngle=0\n",
-                    "   Section=A   MatAngle=35\n", "material-angle"},
-        UnreadValue{"SOLID PROPERTY DEFINITIONS",
-                    "   SolidProp=A   MatAngleA=0   MatAngleB=0   MatAngleC=0\n",
-                    "   SolidProp=A   MatAngleA=0   MatAngleB=0   MatAngleC=20\n",
-                    "material-angle"}));
+                    "   Section=A   MatAngle=35\n", "material-angle"}));
 
 TEST(AccountOfUnreadValues, GravityInAnotherSystemThanTheGlobalOneIsTold) {
   const auto losses = [](const std::string& system) {
@@ -75,20 +65,12 @@ TEST(AccountOfUnreadValues, GravityInAnotherSystemThanTheGlobalOneIsTold) {
   EXPECT_THAT(losses("GLOBAL"), Not(Contains("Frame=1: coordinate-system-ignored")));
 }
 
-TEST(AccountOfUnreadValues, GeometricNonlinearityOfADirectHistoryIsTold) {
-  const char* const title = "CASE - DIRECT HISTORY 5 - NONLINEAR PARAMETERS";
-  EXPECT_THAT(LossesWith(title, "   Case=H   GeoNonLin=P-Delta\n"),
-              Contains("Case=H: geometric-nonlinearity"));
-  EXPECT_THAT(LossesWith(title, "   Case=H   GeoNonLin=None\n"),
-              Not(Contains("Case=H: geometric-nonlinearity")));
-}
-
 TEST(AccountOfUnreadValues, CoordinateSystemsBelowTheFirstAreNoLossByThemselves) {
   const AccountRun run = KeepAccount(
       SourceTable("COORDINATE SYSTEMS",
                   "   Name=GLOBAL   Type=Cartesian\n   Name=SKEW   Type=Cartesian   X=5\n"));
   EXPECT_THAT(run.Losses(), testing::ElementsAre("Name=SKEW: coordinate-system-below-first"));
-  EXPECT_FALSE(run.Rows.HasLoss());
+  EXPECT_FALSE(run.HasLossOfRows());
 }
 
 TEST(AccountOfUnreadValues, TitlesThatBeginOtherwiseMayHoldAPartOfTheModel) {

@@ -242,6 +242,25 @@ TEST_F(CommandTest, OutputThatIsAnotherInputOfTheCallIsNotReplaced) {
   EXPECT_EQ(ReadFile(m_Folder.FileName("two.ngt")), kOneJoint);
 }
 
+TEST_F(CommandTest, InputOfTheCallIsNotReplacedUnderItsHardLink) {
+  Write("a.s2k", kOneJoint);
+  Write("b.s2k", kOneJoint);
+  std::filesystem::create_hard_link(m_Folder.FileName("b.s2k"), m_Folder.FileName("a.ngt"));
+  const CommandRun run = Call({"a.s2k", "b.s2k"});
+  EXPECT_EQ(run.Status, 2);
+  EXPECT_THAT(run.Err, HasSubstr("a.s2k: the output would replace the input b.s2k"));
+  EXPECT_EQ(ReadFile(m_Folder.FileName("b.s2k")), kOneJoint);
+}
+
+TEST_F(CommandTest, OutputOfTheCallIsNotReplacedUnderItsHardLink) {
+  Write("a.s2k", kOneJoint);
+  Write("b.s2k", kOneJoint);
+  Write("a.ngt", "");
+  std::filesystem::create_hard_link(m_Folder.FileName("a.ngt"), m_Folder.FileName("b.ngt"));
+  EXPECT_THAT(Call({"a.s2k", "b.s2k"}).Err,
+              HasSubstr("b.s2k: the output would replace that of a.s2k"));
+}
+
 TEST_F(CommandTest, OutputOfAnotherInputIsNotReplacedUnderAnotherName) {
   Write("a.s2k", kOneJoint);
   Write("a.txt", kOneJoint);

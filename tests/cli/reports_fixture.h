@@ -8,9 +8,9 @@
 
 /// A table that the host has no like for, and one whose second block writes over its first.
 inline const std::string kLosses = FileWith(
-    "TABLE:  \"JOINT COORDINATES\"\n   Joint=1\n   Joint=2\n\n"
+    "TABLE:  \"FUNCTION - RESPONSE SPECTRUM - USER\"\n   Name=1\n   Name=2\n\n"
     "TABLE:  \"AREA AUTO MESH ASSIGNMENTS\"\n   Area=1\n\n"
-    "TABLE:  \"JOINT COORDINATES\"\n   Joint=3\n");
+    "TABLE:  \"FUNCTION - RESPONSE SPECTRUM - USER\"\n   Name=3\n");
 
 class ReportsTest : public CommandTest {
  protected:

@@ -19,6 +19,10 @@ using nlohmann::json;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
+const std::string kJointWithUnits = FileWith(
+    "TABLE:  \"PROGRAM CONTROL\"\n   CurrUnits=\"KN, m, C\"\n\n"
+    "TABLE:  \"JOINT COORDINATES\"\n   Joint=1   XorR=2\n");
+
 TEST_F(ReportsTest, AReportInJsonTellsWhatBecameOfEveryRow) {
   Write("lossy.s2k", kLosses);
   EXPECT_EQ(Call({"--report", "lost.json", "lossy.s2k"}).Status, 0);
@@ -46,7 +50,7 @@ TEST_F(ReportsTest, AReportInJsonTellsWhatBecameOfEveryRow) {
   EXPECT_EQ(file["losses"], json({{{"table", 0},
                                    {"position", 1},
                                    {"line", 4},
-                                   {"label", "Joint=1"},
+                                   {"label", "Name=1"},
                                    {"reason", "overwritten-by-later-block"}}}));
   EXPECT_EQ(file["numbers"], json({{"joints", nullptr}, {"elements", nullptr}}));
   EXPECT_EQ(file["messages"].size(), 2U);
@@ -99,7 +103,7 @@ TEST_F(ReportsTest, ReportsAreTheSameFromOneProcessAndFromSeveral) {
 }
 
 TEST_F(ReportsTest, AFileThatFailsStandsInTheReport) {
-  Write("whole.s2k", kOneJoint);
+  Write("whole.s2k", kJointWithUnits);
   const CommandRun run = Call({"--report", "lost.json", "whole.s2k", "missing.s2k"});
   EXPECT_EQ(run.Status, 2);
   const json report = Report("lost.json");
@@ -123,7 +127,7 @@ TEST_F(ReportsTest, OutputAndMessagesAreThoseOfACallWithoutAReportAndTheLineOfJs
 }
 
 TEST_F(ReportsTest, LinesOfJsonHaveVerdictsWhereverAnAccountIsKept) {
-  Write("whole.s2k", kOneJoint);
+  Write("whole.s2k", kJointWithUnits);
   for (const std::vector<std::string>& how : std::vector<std::vector<std::string>>{
            {"--check"}, {"--fail-on-loss"}, {"--report", "lost.json"}, {"--check", "-j", "2"}}) {
     SCOPED_TRACE(how[0]);
@@ -133,7 +137,7 @@ TEST_F(ReportsTest, LinesOfJsonHaveVerdictsWhereverAnAccountIsKept) {
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0]["verdict"], "whole");
     EXPECT_EQ(lines[0]["has_loss"], false);
-    EXPECT_EQ(lines[0]["rows"]["converted"], 1);
+    EXPECT_EQ(lines[0]["rows"]["converted"], 2);  // the joint and the units
     EXPECT_EQ(lines[1]["verdict"], "failed");
     EXPECT_EQ(lines[1]["rows"]["read"], 0);
   }
@@ -195,9 +199,17 @@ TEST_F(ReportsTest, AReportMayLieInTheFolderOfTheOutputs) {
   EXPECT_TRUE(Exists("outputs/lost.json"));
 }
 
+TEST_F(ReportsTest, AFileThatStandsWhereTheReportIsWrittenAtFirstStays) {
+  Write("report.json.part", kJointWithUnits);
+  EXPECT_EQ(Call({"--report", "report.json", "report.json.part"}).Status, 0);
+  EXPECT_EQ(Text("report.json.part"), kJointWithUnits);
+  EXPECT_TRUE(Exists("report.json"));
+  EXPECT_FALSE(Exists("report.json.part2"));
+}
+
 TEST_F(ReportsTest, ALossFailsWhereItIsAskedTo) {
   Write("lossy.s2k", kLosses);
-  Write("whole.s2k", kOneJoint);
+  Write("whole.s2k", kJointWithUnits);
   EXPECT_EQ(Call({"--fail-on-loss", "lossy.s2k"}).Status, 3);
   EXPECT_TRUE(Exists("lossy.ngt"));
   EXPECT_EQ(Call({"--fail-on-loss", "whole.s2k"}).Status, 0);
@@ -211,7 +223,7 @@ TEST_F(ReportsTest, AFailureGoesBeforeALoss) {
 
 TEST_F(ReportsTest, TheSummaryTellsHowManyFilesHaveLosses) {
   Write("lossy.s2k", kLosses);
-  Write("whole.s2k", kOneJoint);
+  Write("whole.s2k", kJointWithUnits);
   EXPECT_THAT(Call({"--fail-on-loss", "lossy.s2k", "whole.s2k"}).Err,
               HasSubstr("s2k2ngt: 2 files: 2 converted (1 with losses)\n"
                         "s2k2ngt: with losses:\n"

@@ -182,6 +182,23 @@ TEST_F(Workers, NeverWriteTheSameOutputAtOnce) {
   EXPECT_EQ(objects[1]["result"], 0);
 }
 
+TEST_F(Workers, OfWhichSomeHaveEndedAreHeardBelowTheLimitOfFiles) {
+  // 40 processes have 80 streams, of which no more than 64 may be listed at once.
+  std::vector<std::string> words = {S2K2NGT_COMMAND, "--json", "-j", "40"};
+  for (int number = 1; number <= 200; ++number) {
+    const std::string name = "model" + std::to_string(number) + ".s2k";
+    Write(name, kOneJoint);
+    words.push_back(name);
+  }
+  std::string line;
+  for (const std::string& word : words) {
+    line += " " + word;
+  }
+  const CommandRun run = CallInShell("ulimit -n 64; exec timeout -s KILL 60" + line);
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(JsonLines(run.Out).size(), 200U);
+}
+
 TEST_F(Workers, WaitForRoomWhenTheSystemHasNone) {
   std::vector<std::string> names;
   std::string words;

@@ -13,15 +13,15 @@ GUIDE = (ROOT / "docs" / "host_programming.md").read_text(encoding="utf-8")
 LOSSY = """\
 File lossy.s2k was saved on 5/12/03 at 9:30:00
 
-TABLE:  "JOINT COORDINATES"
-   Joint=1   CoordSys=GLOBAL   CoordType=Cartesian   XorR=0   Y=0   Z=0
-   Joint=2   CoordSys=GLOBAL   CoordType=Cartesian   XorR=5   Y=0   Z=0
+TABLE:  "FUNCTION - RESPONSE SPECTRUM - USER"
+   Name=SITE   Period=0   Accel=0.4
+   Name=SITE   Period=1   Accel=0.3
 
 TABLE:  "AREA AUTO MESH ASSIGNMENTS"
    Area=1   MeshType="No Mesh"
 
-TABLE:  "JOINT COORDINATES"
-   Joint=3   CoordSys=GLOBAL   CoordType=Cartesian   XorR=9   Y=0   Z=0
+TABLE:  "FUNCTION - RESPONSE SPECTRUM - USER"
+   Name=SITE   Period=0   Accel=0.5
 
 END TABLE DATA
 """
@@ -120,11 +120,11 @@ class Installation(PackagingTest):
         done = attempt(folder / "account_c", "lossy.s2k", cwd=folder)
         self.assertEqual((done.returncode, done.stderr), (3, ""))
         self.assertEqual(done.stdout, (
-            "JOINT COORDINATES: 1 of 2 rows are converted as they stand\n"
-            "  line 4, Joint=1: A later block of the same table has written over the row.\n"
+            "FUNCTION - RESPONSE SPECTRUM - USER: 1 of 2 rows are converted as they stand\n"
+            "  line 4, Name=SITE: A later block of the same table has written over the row.\n"
             "AREA AUTO MESH ASSIGNMENTS: 0 of 1 rows are converted as they stand\n"
             "  1 rows: The host has no like of this table.\n"
-            "JOINT COORDINATES: 1 of 1 rows are converted as they stand\n"))
+            "FUNCTION - RESPONSE SPECTRUM - USER: 1 of 1 rows are converted as they stand\n"))
         self.assertFalse((folder / "lossy.ngt").exists())
         done = attempt(folder / "account_cpp", "lossy.s2k", cwd=folder)
         self.assertEqual((done.returncode, done.stdout, done.stderr),

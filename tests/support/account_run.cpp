@@ -18,11 +18,31 @@ std::vector<std::string> AccountRun::LossesIn(std::string_view words) const {
   return losses;
 }
 
+namespace {
+
+/// Tables that the file does not have.
+bool IsMissing(const s2k2ngt::TableAccount& table) {
+  return table.Title == "(PROGRAM CONTROL)" || table.Title == "(ACTIVE DEGREES OF FREEDOM)";
+}
+
+}  // namespace
+
+bool AccountRun::HasLossOfRows() const {
+  return std::ranges::any_of(Rows.Tables, [](const s2k2ngt::TableAccount& table) {
+    return !IsMissing(table) && std::ranges::any_of(table.Reasons, [](const auto& reason) {
+      return reason.Why->IsLoss;
+    });
+  });
+}
+
 std::vector<std::string> AccountRun::Tables() const {
   constexpr std::array<const char*, s2k2ngt::kRowFates> kNames = {"converted", "changed", "dropped",
                                                                   "refused", "not looked at"};
   std::vector<std::string> tables;
   for (const s2k2ngt::TableAccount& table : Rows.Tables) {
+    if (IsMissing(table)) {
+      continue;
+    }
     std::string text = table.Title + ": " + std::to_string(table.Rows) + " rows";
     for (std::size_t fate = 0; fate < kNames.size(); ++fate) {
       if (table.ByFate[fate] > 0) {

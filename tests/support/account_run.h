@@ -18,8 +18,10 @@ struct AccountRun {
   /// Those of the tables whose titles hold these words.
   std::vector<std::string> LossesIn(std::string_view words) const;
   /// The tables, each as "JOINT COORDINATES: 4 rows, 3 converted, 1 dropped", in the order of the
-  /// file; fates without a row are left out.
+  /// file; fates without a row are left out, and so are the tables that the file does not have.
   std::vector<std::string> Tables() const;
+  /// True when one of these tables has a loss.
+  bool HasLossOfRows() const;
 };
 
 /// Runs the conversion over these bytes keeping account. Checks that the output, the messages and
