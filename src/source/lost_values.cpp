@@ -1,5 +1,7 @@
 #include "source/lost_values.h"
 
+#include "source/str_parser.h"
+
 #include <algorithm>
 #include <array>
 

@@ -96,7 +96,7 @@ class RowKey {
       : m_Name(key.Name), m_Kind(Kind::Stated), m_Flag(key.Target) {}
   constexpr RowKey(Unread key) : m_Name(key.Name), m_Kind(Kind::Unread) {}
   constexpr RowKey(LostUnless key)
-      : m_Name(key.Name), m_Kind(Kind::Lost), m_Neutral(key.Neutral), m_Why(key.Reason) {}
+      : m_Name(key.Name), m_Kind(Kind::Lost), m_Why(key.Reason), m_Neutral(key.Neutral) {}
   template <class Field>
   constexpr RowKey(Noted<Record, Field> key) : RowKey(key.Name, key.Target) {
     m_IsConverted = false;
@@ -109,8 +109,8 @@ class RowKey {
       : m_Name(key.m_Name),
         m_Kind(static_cast<Kind>(key.m_Kind)),
         m_IsConverted(key.m_IsConverted),
-        m_Neutral(key.m_Neutral),
         m_Why(key.m_Why),
+        m_Neutral(key.m_Neutral),
         m_Text(key.m_Text),
         m_Real(key.m_Real),
         m_Integer(key.m_Integer),
@@ -185,8 +185,9 @@ class RowKey {
   Text m_Name;
   Kind m_Kind;
   bool m_IsConverted = true;
+  // Of a key that is lost.
+  Why m_Why = "value-of-unknown-name";
   Text m_Neutral;
-  Why m_Why = "value-of-unknown-name";  // of a key that is lost
   // The field, under its type.
   Text Record::*m_Text = nullptr;
   double Record::*m_Real = nullptr;

@@ -107,8 +107,9 @@ class RowReader {
     }
   }
   void TakeUnknown(Text name, Text value) {
+    constexpr Why kUnknownName = "value-of-unknown-name";
     if (!IsOfNoConsequence(name, value)) {
-      m_Lost.push_back("value-of-unknown-name");
+      m_Lost.push_back(kUnknownName);
     }
   }
 

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 using testing::Contains;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
