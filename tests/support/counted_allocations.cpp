@@ -27,6 +27,15 @@ void* operator new(std::size_t size) {
   return memory;
 }
 
+// As the standard library's; the sanitizers would have one of their own, and none that fits ours.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  try {
+    return operator new(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
 void operator delete(void* memory) noexcept {
   if (memory != nullptr) {
     --s_Living.Allocations;
@@ -36,6 +45,9 @@ void operator delete(void* memory) noexcept {
 }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }
+void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept {
+  operator delete(memory);
+}
 
 LivingMemory CountLivingMemory() { return s_Living; }
 
