@@ -144,28 +144,30 @@ class RowKey {
     }
   }
 
-  /// Puts the value that a row states for the key into its field.
-  void Store(Text value, TextStore& store, Record& record) const {
+  /// Puts the value that a row states for the key into its field. False when something may be lost
+  /// with it, as WhyLost and WhyDoubtful tell.
+  bool Store(Text value, TextStore& store, Record& record) const {
     switch (m_Kind) {
       case Kind::Word:
         Set(record, m_Text, CStrParser::FirstString(value, store));
         break;
       case Kind::Real:
-        Set(record, m_Real, CStrParser::FirstDouble(value));
-        break;
+        return StoreNumber(value, [&](double number) { Set(record, m_Real, number); });
       case Kind::Integer:
-        Set(record, m_Integer, TruncateToInteger(CStrParser::FirstDouble(value)));
-        break;
+        return StoreNumber(
+            value, [&](double number) { Set(record, m_Integer, TruncateToInteger(number)); });
       case Kind::YesNo:
         Set(record, m_Flag, CStrParser::FirstIsYes(value));
-        break;
+        return value == "Yes" || value == "No";
       case Kind::Stated:
         Set(record, m_Flag, true);
         break;
       case Kind::Unread:
-      case Kind::Lost:
         break;
+      case Kind::Lost:
+        return false;
     }
+    return true;
   }
 
  private:
@@ -173,6 +175,15 @@ class RowKey {
   friend class RowKey;
 
   enum class Kind : std::uint8_t { Word, Real, Integer, YesNo, Stated, Unread, Lost };
+
+  /// Numbers are plain as a rule, and then they are read once.
+  template <class Take>
+  static bool StoreNumber(Text value, Take take) {
+    double number = 0.0;
+    const bool isPlain = ParseWholeReal(value, number);
+    take(isPlain ? number : CStrParser::FirstDouble(value));
+    return isPlain;
+  }
 
   template <class Field>
   static void Set(Record& record, Field Record::*field, Field value) {

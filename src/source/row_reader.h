@@ -49,10 +49,12 @@ class RowReader {
             TakeUnknown(pairs.Word(), pairs.Value());
             break;
           }
-          std::data(kRowKeys<Record>)[key].Store(pairs.Value(), m_Texts, record);
+          const Text value = pairs.Value();
+          const RowKey<Record>& known = std::data(kRowKeys<Record>)[key];
+          const bool isSound = known.Store(value, m_Texts, record);
           wanted ^= KeySet{1} << key;
-          if ((wanted >> kUnknown & 1U) != 0) {
-            TakeLost(std::data(kRowKeys<Record>)[key], pairs.Value());
+          if (!isSound && (wanted >> kUnknown & 1U) != 0) {
+            TakeLost(known, value);
           }
         }
       }
